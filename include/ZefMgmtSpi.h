@@ -1,0 +1,86 @@
+/*
+ * The small part of the management framework's service provider interface
+ * that the model repository uses: the common head of every interface record,
+ * the log and trace interfaces the logging singleton forwards to, and the
+ * per-thread error text of the C interfaces.
+ */
+#ifndef ZEF_MGMT_SPI_H
+#define ZEF_MGMT_SPI_H
+
+#include <stdarg.h>
+#include <stdint.h>
+
+#include "ZefReturn.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/**
+ * Head of every interface record: who provides it, its name and its version
+ * text. The operations of the concrete interface follow these three texts.
+ */
+typedef struct ZefMgmtSpiInterface_1 {
+    const char* componentName;
+    const char* interfaceName;
+    const char* interfaceVersion;
+} ZefMgmtSpiInterface_1;
+
+/** Log interface "ZefMwSpiLog" version "1". */
+typedef struct ZefMwSpiLog_1 {
+    ZefMgmtSpiInterface_1 base;
+    /** Writes one finished log line; non-zero means it could not be written. */
+    ZefReturnT (*log)(int version, unsigned int level, int facility, const char* line);
+} ZefMwSpiLog_1;
+
+/** Trace interface "ZefMwSpiTrace" version "1". */
+typedef struct ZefMwSpiTrace_1 {
+    ZefMgmtSpiInterface_1 base;
+    void (*enter)(const char* line);
+    void (*leave)(const char* line);
+    void (*print)(unsigned int level, const char* line);
+} ZefMwSpiTrace_1;
+
+typedef uint32_t ZefMwSpiTraceSubsystemHandle_2T;
+typedef uint32_t ZefMwSpiTraceLevelT;
+
+/** Trace interface "ZefMwSpiTrace" version "2": per-subsystem tracing. */
+typedef struct ZefMwSpiTrace_2 {
+    ZefMgmtSpiInterface_1 base;
+    /** Registers a subsystem by name and returns its handle; non-zero on failure. */
+    ZefReturnT (*registerSubsystem)(const char* name, ZefMwSpiTraceSubsystemHandle_2T* handle);
+    void (*print)(ZefMwSpiTraceSubsystemHandle_2T subsystem, ZefMwSpiTraceLevelT level,
+                  const char* file, const char* function, unsigned int line,
+                  const char* format, va_list args);
+} ZefMwSpiTrace_2;
+
+/** Per-thread scratch and error text of the C interfaces. */
+typedef struct ZefMgmtSpiThreadContext_1 {
+    char copyBuffer[4096];
+    char errorText[4096];
+} ZefMgmtSpiThreadContext_1;
+
+/** Nothing to prepare; returns 0. */
+ZefReturnT zefMgmtSpiThreadContextInit(void);
+/** The calling thread's block, created on first use; -1 and null when no key can be created. */
+ZefReturnT zefMgmtSpiThreadContextGet(ZefMgmtSpiThreadContext_1** out);
+/** Formats the error text (null empties it); -1 when no block is available. */
+ZefReturnT zefMgmtSpiThreadContextSetErrorText(const char* fmt, ...)
+#ifdef __GNUC__
+    __attribute__((format(printf, 1, 2)))
+#endif
+    ;
+/** Writes the new text in front of the current one; -8 for a null or empty format. */
+ZefReturnT zefMgmtSpiThreadContextPrependErrorText(const char* fmt, ...)
+#ifdef __GNUC__
+    __attribute__((format(printf, 1, 2)))
+#endif
+    ;
+/** A copy of the error text, valid until the thread's next call; null when no block exists. */
+const char* zefMgmtSpiThreadContextGetErrorText(void);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* ZEF_MGMT_SPI_H */

@@ -1,0 +1,2 @@
+// Command-line entry of zef_model_validator (being built up).
+int main() { return 0; }

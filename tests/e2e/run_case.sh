@@ -1,0 +1,123 @@
+#!/usr/bin/env bash
+# Runs one end-to-end case against the real executable.
+#
+# usage: run_case.sh EXECUTABLE CASE_DIR WORK_DIR BUILD_DIR
+#
+# The case folder is copied to WORK_DIR/run and the executable runs there, so
+# relative model paths work and the sources are never touched. Files of a case:
+#   args              one command-line argument per line (optional)
+#   env               KEY=VALUE lines to export, "-KEY" lines to unset (optional)
+#   setup.sh          run with bash in the run folder before the executable (optional)
+#   expected_stdout   the exact standard output
+#   expected_status   the exit status the shell sees
+#   expected_stderr   the exact standard error (optional)
+#   stderr_contains   lines each of which must occur in standard error (optional)
+#   log_contains      lines each of which must occur in the log file (optional)
+#   log_lacks         lines none of which may occur in the log file (optional)
+#   log_file          the log path when the case moves it (optional; default @LOG@)
+# Placeholders in every file: @WORK@ the run folder, @LOG@ the default log
+# path (@WORK@/validator.log), @BUILD@ the build folder.
+set -u
+
+exe=$1
+case_dir=$2
+work=$3
+build=$4
+run="$work/run"
+
+rm -rf "$work"
+mkdir -p "$work"
+cp -a "$case_dir" "$run"
+mkdir -p "$run/tmp"
+log_default="$run/validator.log"
+
+subst() {
+    sed -e "s|@WORK@|$run|g" -e "s|@LOG@|$log_default|g" -e "s|@BUILD@|$build|g" "$1"
+}
+
+args=()
+if [[ -f "$case_dir/args" ]]; then
+    while IFS= read -r line || [[ -n "$line" ]]; do
+        args+=("$line")
+    done < <(subst "$case_dir/args")
+fi
+
+# A clean, predictable environment for every case.
+unset ZEF_LOGGING_FNAME ZEF_LOGGING_LEVEL ZEF_LOGGING_FMAXSIZE ZEF_LOGGING_FMAXCOUNT ZEF_VALIDATOR_LOGGING_LEVEL
+export TMPDIR="$run/tmp"
+export USER=tester
+export ZEF_VALIDATOR_LOGGING_FNAME="$log_default"
+if [[ -f "$case_dir/env" ]]; then
+    while IFS= read -r line || [[ -n "$line" ]]; do
+        [[ -z "$line" ]] && continue
+        if [[ "$line" == -* ]]; then
+            unset "${line#-}"
+        else
+            export "${line%%=*}=${line#*=}"
+        fi
+    done < <(subst "$case_dir/env")
+fi
+
+cd "$run" || exit 1
+if [[ -f "$case_dir/setup.sh" ]]; then
+    bash "$case_dir/setup.sh" || { echo "setup.sh failed"; exit 1; }
+fi
+
+"$exe" "${args[@]}" > "$work/stdout" 2> "$work/stderr" < /dev/null
+status=$?
+
+fail=0
+report() { echo "FAIL: $*"; fail=1; }
+
+subst "$case_dir/expected_stdout" > "$work/expected_stdout"
+if ! cmp -s "$work/expected_stdout" "$work/stdout"; then
+    report "standard output differs (expected vs actual):"
+    diff "$work/expected_stdout" "$work/stdout"
+fi
+
+expected_status=$(subst "$case_dir/expected_status" | tr -d '[:space:]')
+if [[ "$status" != "$expected_status" ]]; then
+    report "exit status $status, expected $expected_status"
+fi
+
+if [[ -f "$case_dir/expected_stderr" ]]; then
+    subst "$case_dir/expected_stderr" > "$work/expected_stderr"
+    if ! cmp -s "$work/expected_stderr" "$work/stderr"; then
+        report "standard error differs (expected vs actual):"
+        diff "$work/expected_stderr" "$work/stderr"
+    fi
+fi
+
+check_lines() { # file-with-expected-lines haystack want(yes/no) what
+    local line
+    while IFS= read -r line || [[ -n "$line" ]]; do
+        [[ -z "$line" ]] && continue
+        if grep -qF -- "$line" "$2" 2>/dev/null; then
+            [[ "$3" == no ]] && report "$4 holds unexpected text: $line"
+        else
+            [[ "$3" == yes ]] && report "$4 lacks: $line"
+        fi
+    done < <(subst "$1")
+}
+
+if [[ -f "$case_dir/stderr_contains" ]]; then
+    check_lines "$case_dir/stderr_contains" "$work/stderr" yes "standard error"
+fi
+
+log_file="$log_default"
+if [[ -f "$case_dir/log_file" ]]; then
+    log_file=$(subst "$case_dir/log_file" | head -n 1)
+fi
+if [[ -f "$case_dir/log_contains" ]]; then
+    check_lines "$case_dir/log_contains" "$log_file" yes "log $log_file"
+fi
+if [[ -f "$case_dir/log_lacks" ]]; then
+    check_lines "$case_dir/log_lacks" "$log_file" no "log $log_file"
+fi
+
+if [[ $fail -ne 0 ]]; then
+    echo "--- stderr ---"
+    cat "$work/stderr"
+    exit 1
+fi
+exit 0
