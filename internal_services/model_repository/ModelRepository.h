@@ -1,0 +1,216 @@
+#ifndef ZEF_MODEL_REPOSITORY_H
+#define ZEF_MODEL_REPOSITORY_H
+
+#include <cstdarg>
+#include <list>
+#include <map>
+#include <string>
+#include <utility>
+
+#include "MocWrapper.h"
+#include "ZefOamSpiMrTypes.h"
+#include "ZefReturn.h"
+
+namespace ZefModelRepositoryService {
+
+class AssociationEndWrapper;
+class BiDirAssociationWrapper;
+class ContWrapper;
+class DdtWrapper;
+class EnumWrapper;
+class MoActionWrapper;
+class MomWrapper;
+class RefId;
+class StructWrapper;
+class UniDirAssociationWrapper;
+
+/// The one central store of a loaded model: the registries of every element
+/// record, the compiled model, and the message list of every finding.
+///
+/// Records handed to a successful add... belong to the repository and are
+/// destroyed by cleanup(); a refused record stays with the caller. Every
+/// map is ordered by identity key, byte-wise, so every pass over a registry
+/// runs in ascending key order; MOMs keep the order in which they were added.
+class ModelRepository {
+public:
+    using MocMap = std::map<std::string, MocWrapper*>;
+    using DdtMap = std::map<std::string, DdtWrapper*>;
+    using EnumMap = std::map<std::string, EnumWrapper*>;
+    using ContMap = std::map<std::string, ContWrapper*>;
+    using StructMap = std::map<std::string, StructWrapper*>;
+    using BiDirMap = std::map<std::string, BiDirAssociationWrapper*>;
+    using UniDirMap = std::map<std::string, UniDirAssociationWrapper*>;
+    using AssocEndMap = std::map<std::string, AssociationEndWrapper*>;
+    using MocNameCache = std::multimap<std::string, MocWrapper*>;
+    /// Modelling-standard MOM key -> (MOM name, MOM version).
+    using QcimNameMap = std::map<std::string, std::pair<std::string, std::string>>;
+
+    ModelRepository();
+    virtual ~ModelRepository();
+
+    ModelRepository(const ModelRepository&) = delete;
+    ModelRepository& operator=(const ModelRepository&) = delete;
+
+    // ---- registries --------------------------------------------------------
+
+    /// Each add... takes ownership on success and returns ZefOk; it refuses
+    /// (and reports an error) a null record with ZefInvalidArgument, an
+    /// incomplete one (empty identity key) with ZefFailure and a duplicate
+    /// key with ZefAlreadyExists, checked in that order.
+    ZefReturnT addMom(MomWrapper* mom);
+    ZefReturnT addMoc(MocWrapper* moc);
+    ZefReturnT addDdt(DdtWrapper* ddt);
+    ZefReturnT addEnum(EnumWrapper* enumeration);
+    ZefReturnT addStruct(StructWrapper* structure);
+    ZefReturnT addCont(ContWrapper* cont);
+    ZefReturnT addAssocEnd(AssociationEndWrapper* end);
+    ZefReturnT addBidir(BiDirAssociationWrapper* assoc);
+    ZefReturnT addUnidir(UniDirAssociationWrapper* assoc);
+
+    // ---- reading -----------------------------------------------------------
+
+    /// The first MOM added; ZefNotFound when there is none.
+    ZefReturnT getMoms(const ZefOamSpiMom** out) const;
+    /// The class of that MOM name, version and class name, also when the MOM
+    /// is named by its modelling-standard name and version (after
+    /// compilation). ZefInvalidArgument for an incomplete key, ZefNotFound.
+    ZefReturnT getMoc(const char* momName, const char* momVersion, const char* mocName,
+                      const ZefOamSpiMoc** out) const;
+    /// The class a distinguished name leads to; with `flag` false a class
+    /// name that is unique in the model is enough. ZefNotFound otherwise.
+    ZefReturnT getMocFromDn(const char* dn, bool flag, const ZefOamSpiMoc** out) const;
+    /// The tree root (possibly null); ZefOk.
+    ZefReturnT getTreeRoot(const ZefOamSpiMoc** out) const;
+    /// The model file the MOM of exactly that name and version was read
+    /// from. ZefInvalidArgument for a null argument, ZefNotFound.
+    ZefReturnT getFileName(const char* momName, const char* momVersion, const char** out) const;
+
+    const std::list<MomWrapper*>& getMomList() const { return _moms; }
+    const MocMap& getMocMap() const { return _mocs; }
+    const DdtMap& getDdtMap() const { return _ddts; }
+    const EnumMap& getEnumMap() const { return _enums; }
+    const ContMap& getContMap() const { return _conts; }
+    const StructMap& getStructMap() const { return _structs; }
+    const BiDirMap& getBidirMap() const { return _bidirs; }
+    const UniDirMap& getUnidirMap() const { return _unidirs; }
+    const AssocEndMap& getAssocEndMap() const { return _assocEnds; }
+    const MocNameCache& getMocNameCache() const { return _mocNameCache; }
+    const QcimNameMap& getQcimNameMap() const { return _qcimNames; }
+    /// The class that stands for "any class" in a reference; in no registry.
+    MocWrapper& getAnyClassMoc() { return _anyClassMoc; }
+
+    // ---- name and version resolution ---------------------------------------
+
+    /// Version of the only MOM named `mimName`; cleared (and logged) when
+    /// several MOMs have that name, unchanged (and logged) when none has.
+    void getMimVersion(std::string mimName, std::string& mimVersion);
+    /// MOM name and version of the only class named `mocName`; an error is
+    /// reported when there are several or none.
+    void getMimNameAndVersion(std::string mocName, std::string& mimName, std::string& mimVersion);
+    /// Name and version of the first MOM whose "QCIM"/"qcimMomName" domain
+    /// extension is `name`; false (outputs untouched) when none has it.
+    bool getMimInfoFromQcimName(const std::string& name, std::string& mimName, std::string& mimVersion);
+    /// Replaces a modelling-standard MOM name of a reference by the MOM's own
+    /// name and version.
+    void translateMimName(RefId& ref);
+    /// The same for both ends of a containment.
+    void translateMimNames(ContWrapper& cont);
+    /// Files every class under its plain name (duplicates kept).
+    void buildMocNameCache();
+    /// Writes every record's dump to the trace.
+    void dumpModel();
+    /// Destroys every record and empties the registries; keeps the message
+    /// list, the modelling-standard name map, the flags and the any-class MOC.
+    void cleanup();
+
+    // ---- compilation (ModelRepositoryCompile.cpp) ---------------------------
+
+    /// Resolves references into pointers, chains containments, fills
+    /// defaults and fixes each MOM's root class.
+    void compileModel();
+    void setMomsRootMoc();
+    void checkSetParentMimId(ContWrapper& cont);
+    void checkSetChildMimId(ContWrapper& cont);
+    void setContParentAndChildMoc(ContWrapper& cont);
+    void compileParentListConts();
+    void compileChildListConts();
+    void setSystemCreatedforConts();
+    void setAttrsDataType(MocWrapper& moc);
+    void setMoActionDataType(MocWrapper& moc);
+    void setBiDirectionalAssociations();
+    void setBiDirectionalAssociationEnds(BiDirAssociationWrapper& assoc);
+    void setBiDirectionalMocs(BiDirAssociationWrapper& assoc);
+    void setBiDirectionalAttributes(BiDirAssociationWrapper& assoc);
+    void setUniDirectionalAssociations();
+    /// Picks the model's tree root; null when any finding is an error.
+    void findTreeRoot();
+
+    // ---- validation (ModelRepositoryValidate.cpp) ---------------------------
+
+    /// Runs every consistency check and finally findTreeRoot().
+    void validateModel();
+    void checkMoms();
+    void checkEnums();
+    void checkDdts();
+    void checkMocs();
+    void checkAttrs(MocWrapper& moc);
+    void checkActions(MocWrapper& moc);
+    void checkParameters(MoActionWrapper& action);
+    void checkConts();
+    void checkStructs();
+    void checkAssociationEnds();
+    void checkBiDirectionalAssociations();
+    void checkUniDirectionalAssociations();
+    /// True when `text` matches the POSIX extended regular expression
+    /// `pattern`; a pattern that does not compile is reported and is no match.
+    bool doRegexp(std::string pattern, std::string text);
+
+    // ---- findings ----------------------------------------------------------
+
+    /// Reports a finding of the repository itself ("ModelRepository"):
+    /// logs it at its level and records it (see the reporter form below).
+    void checkThrowException(unsigned short level, const char* format, ...)
+        __attribute__((format(printf, 3, 4)));
+
+    /// Records a finding of `who`: level 3 as "ERROR, <who>: <message>",
+    /// level 4 as "WARNING, <who>: <message>", any other level as the
+    /// message alone (cut at 4095 characters). Outside standalone mode an
+    /// error throws Zef::ZefException "<who>: invalid model". The caller
+    /// logs the message itself.
+    void checkThrowException(const char* who, unsigned short level, const char* format, va_list args)
+        __attribute__((format(printf, 4, 0)));
+
+    /// The findings in the order reported. Never cleared by cleanup().
+    const std::list<std::string>& getMessages() const { return _messages; }
+
+    void setStandalone(bool standalone) { _standalone = standalone; }
+    bool isStandalone() const { return _standalone; }
+    void setMainRootName(const std::string& name) { _mainRootName = name; }
+    const std::string& getMainRootName() const { return _mainRootName; }
+
+private:
+    // Logs a finding at its level and reports it as the repository's own.
+    void report(unsigned short level, const char* format, ...) __attribute__((format(printf, 3, 4)));
+
+    std::list<std::string> _messages;
+    char _messageBuffer[4096];
+    std::list<MomWrapper*> _moms;
+    const ZefOamSpiMoc* _treeRoot = nullptr;
+    MocMap _mocs;
+    DdtMap _ddts;
+    EnumMap _enums;
+    ContMap _conts;
+    StructMap _structs;
+    BiDirMap _bidirs;
+    UniDirMap _unidirs;
+    AssocEndMap _assocEnds;
+    MocNameCache _mocNameCache;
+    QcimNameMap _qcimNames;
+    bool _standalone = false;
+    std::string _mainRootName;
+    MocWrapper _anyClassMoc;
+};
+
+} // namespace ZefModelRepositoryService
+
+#endif // ZEF_MODEL_REPOSITORY_H

@@ -1,0 +1,42 @@
+#ifndef ZEF_CONFIGURATION_H
+#define ZEF_CONFIGURATION_H
+
+#include <string>
+
+#include <Poco/AutoPtr.h>
+#include <Poco/DOM/Document.h>
+#include <Poco/DOM/NodeList.h>
+
+namespace Zef {
+
+/// Holds one parsed XML document of a model file.
+class ZefConfiguration {
+public:
+    ZefConfiguration() = default;
+    ~ZefConfiguration() = default;
+
+    ZefConfiguration(const ZefConfiguration&) = delete;
+    ZefConfiguration& operator=(const ZefConfiguration&) = delete;
+
+    /// Parses `fileName` into a DOM document with white-space-only text
+    /// filtered out, replacing (and releasing) any document held before.
+    /// When no file of that name exists the argument itself is parsed as XML
+    /// text, so a document can also be handed over in a string.
+    /// Throws ZefException with "<fileName> is not a file" or "<fileName> is
+    /// not readable", and with the reader's own text for malformed XML.
+    void load(const std::string& fileName);
+
+    /// The elements of the held document with the given tag name (null when
+    /// no document is held).
+    Poco::AutoPtr<Poco::XML::NodeList> getElementsByTagName(const std::string& name) const;
+
+    /// The held document, or null.
+    Poco::XML::Document* getDocument() const { return _document.get(); }
+
+private:
+    Poco::AutoPtr<Poco::XML::Document> _document;
+};
+
+} // namespace Zef
+
+#endif // ZEF_CONFIGURATION_H
