@@ -1,0 +1,194 @@
+#include "MrUtil.h"
+
+#include <cfloat>
+#include <cstring>
+
+#include "ZefLog.h"
+
+namespace ZefModelRepositoryService {
+namespace MrUtil {
+
+ZefReturnT toInt8(const std::string& text, int8_t& out) { return toInt<int8_t>(text, out); }
+ZefReturnT toInt16(const std::string& text, short& out) { return toInt<short>(text, out); }
+ZefReturnT toInt32(const std::string& text, int32_t& out) { return toInt<int32_t>(text, out); }
+ZefReturnT toInt64(const std::string& text, long long& out) { return toInt<long long>(text, out); }
+ZefReturnT toUInt8(const std::string& text, uint8_t& out) { return toInt<uint8_t>(text, out); }
+ZefReturnT toUInt16(const std::string& text, uint16_t& out) { return toInt<uint16_t>(text, out); }
+ZefReturnT toUInt32(const std::string& text, uint32_t& out) { return toInt<uint32_t>(text, out); }
+ZefReturnT toUInt64(const std::string& text, uint64_t& out) { return toInt<uint64_t>(text, out); }
+
+ZefReturnT toDouble(const std::string& text, double& out)
+{
+    if (text.empty() || std::isspace(static_cast<unsigned char>(text[0]))) {
+        return ZefInvalidArgument;
+    }
+    if (text == kUnbounded) {
+        out = DBL_MAX;
+        return ZefOk;
+    }
+    const char* begin = text.c_str();
+    char* end = nullptr;
+    const double value = std::strtod(begin, &end);
+    if (end == begin || *end != '\0') {
+        return ZefInvalidArgument;
+    }
+    // Written so that NaN fails too; an overflowing text parses to infinity.
+    if (!(value >= -DBL_MAX && value <= DBL_MAX)) {
+        return ZefInvalidArgument;
+    }
+    out = value;
+    return ZefOk;
+}
+
+char* toChar(const std::string& text)
+{
+    char* copy = new char[text.size() + 1];
+    std::memcpy(copy, text.c_str(), text.size() + 1);
+    return copy;
+}
+
+void freeString(char*& field)
+{
+    delete[] field;
+    field = nullptr;
+}
+
+ZefReturnT setMinHlp(ZefOamSpiMultiplicityRange& range, bool& isSet, const std::string& text)
+{
+    short value = 0;
+    const ZefReturnT result = toInt16(text, value);
+    if (result == ZefOk) {
+        range.min = value;
+        isSet = true;
+    }
+    return result;
+}
+
+ZefReturnT setMaxHlp(ZefOamSpiMultiplicityRange& range, bool& isSet, const std::string& text)
+{
+    short value = std::numeric_limits<short>::max();
+    if (!text.empty()) {
+        const ZefReturnT result = toInt16(text, value);
+        if (result != ZefOk) {
+            return result;
+        }
+        if (value < 0) {
+            return ZefInvalidArgument;
+        }
+    }
+    range.max = value;
+    isSet = true;
+    return ZefOk;
+}
+
+ZefReturnT setDefaultValueHlp(const std::string& text, char*& slot)
+{
+    if (slot != nullptr) {
+        ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "Default value (%s) is already set to (%s).", text.c_str(), slot);
+        return ZefAlreadyExists;
+    }
+    slot = toChar(text);
+    return ZefOk;
+}
+
+ZefReturnT setDefaultValueHlp(const std::string& text, ZefOamSpiDatatypeContainer& container)
+{
+    return setDefaultValueHlp(text, container.defaultValue);
+}
+
+void resetGeneralPropertiesHlp(ZefOamSpiGeneralProperties& gp)
+{
+    gp.name = nullptr;
+    gp.description = nullptr;
+    gp.specification = nullptr;
+    gp.status = ZefOamSpiStatusCurrent;
+    gp.hidden = nullptr;
+}
+
+void cleanGeneralPropertiesHlp(ZefOamSpiGeneralProperties& gp)
+{
+    freeString(gp.name);
+    freeString(gp.description);
+    freeString(gp.specification);
+    freeString(gp.hidden);
+}
+
+void resetDatatypeContainerHlp(ZefOamSpiDatatypeContainer& container)
+{
+    container.type = ZefMrType3NotSet;
+    container.derivedDatatype = nullptr;
+    container.enumDatatype = nullptr;
+    container.structDatatype = nullptr;
+    container.referencedMoc = nullptr;
+    container.defaultValue = nullptr;
+    container.multiplicityRange.min = 1;
+    container.multiplicityRange.max = 1;
+    container.isOrdered = false;
+    container.isUnique = true;
+}
+
+void cleanDatatypeContainerHlp(ZefOamSpiDatatypeContainer& container)
+{
+    freeString(container.defaultValue);
+}
+
+std::string str(const char* text)
+{
+    return text != nullptr ? std::string(text) : std::string();
+}
+
+std::string headerToStringHlp(const std::string& kind, const char* name, const std::string& indent)
+{
+    return indent + "-- " + kind + "(" + str(name) + ") --\n";
+}
+
+std::string generalPropertiesToStringHlp(const ZefOamSpiGeneralProperties& gp, const std::string& indent)
+{
+    std::ostringstream out;
+    out << indent << "Name:              " << str(gp.name) << '\n'
+        << indent << "Description:       " << str(gp.description) << '\n'
+        << indent << "Specification:     " << str(gp.specification) << '\n'
+        << indent << "Status:            " << static_cast<int>(gp.status) << '\n'
+        << indent << "Hidden:            " << str(gp.hidden) << '\n';
+    return out.str();
+}
+
+std::string datatypeContainerToStringHlp(const ZefOamSpiDatatypeContainer& container, const std::string& indent)
+{
+    std::ostringstream out;
+    out << indent << "Type:              " << static_cast<int>(container.type) << '\n'
+        << indent << "DefaultValue:      " << str(container.defaultValue) << '\n'
+        << indent << "MultiplicityMin:   " << container.multiplicityRange.min << '\n'
+        << indent << "MultiplicityMax:   " << container.multiplicityRange.max << '\n'
+        << indent << "IsOrdered:         " << container.isOrdered << '\n'
+        << indent << "IsUnique:          " << container.isUnique << '\n';
+    return out.str();
+}
+
+std::string typeName(int typeCode)
+{
+    static const char* const names[] = {"",       "INT8",   "INT16",  "INT32",     "INT64", "UINT8",
+                                        "UINT16", "UINT32", "UINT64", "STRING",    "BOOL",  "REFERENCE",
+                                        "ENUM",   "DERIVED", "STRUCT", "VOID",     "DOUBLE"};
+    if (typeCode < 0 || typeCode >= static_cast<int>(sizeof(names) / sizeof(names[0]))) {
+        return std::string();
+    }
+    return names[typeCode];
+}
+
+std::string joinKey(std::initializer_list<const char*> parts)
+{
+    std::string key;
+    bool first = true;
+    for (const char* part : parts) {
+        if (!first) {
+            key += '~';
+        }
+        key += str(part);
+        first = false;
+    }
+    return key;
+}
+
+} // namespace MrUtil
+} // namespace ZefModelRepositoryService

@@ -1,0 +1,127 @@
+#include "TypeContainerWrapper.h"
+
+#include "MrUtil.h"
+
+namespace ZefModelRepositoryService {
+
+namespace {
+
+/// Hands out the handle of a linked record, or ZefNotFound when there is none.
+template <typename Record>
+ZefReturnT linkedHandle(const Record* record, uint64_t& handle)
+{
+    if (record == nullptr) {
+        return ZefNotFound;
+    }
+    handle = record->handle;
+    return ZefOk;
+}
+
+} // namespace
+
+TypeContainerWrapper::TypeContainerWrapper(const ZefOamSpiDatatypeContainer* container) : _container(container)
+{
+    _defaultValues = new char*[1];
+    _defaultValues[0] = nullptr;
+}
+
+TypeContainerWrapper::~TypeContainerWrapper()
+{
+    for (size_t i = 0; i < _defaultValueCount; ++i) {
+        delete[] _defaultValues[i];
+    }
+    delete[] _defaultValues;
+}
+
+TypeContainerWrapper::Fields TypeContainerWrapper::fields() const
+{
+    const ZefOamSpiDatatypeContainer& c = *_container;
+    return Fields{c.type,          c.derivedDatatype,   c.enumDatatype, c.structDatatype,
+                  c.referencedMoc, c.multiplicityRange, c.isOrdered,    c.isUnique};
+}
+
+ZefReturnT TypeContainerWrapper::getType(ZefOamSpiType_2& type) const
+{
+    const Fields f = fields();
+    // Version 2 readers know derived types by their base type only.
+    if (f.derivedDatatype != nullptr) {
+        type = static_cast<ZefOamSpiType_2>(f.derivedDatatype->type);
+    } else {
+        type = static_cast<ZefOamSpiType_2>(f.type);
+    }
+    return ZefOk;
+}
+
+ZefReturnT TypeContainerWrapper::getType(ZefOamSpiMrType_3& type) const
+{
+    type = fields().type;
+    return ZefOk;
+}
+
+ZefReturnT TypeContainerWrapper::getDerived(uint64_t& handle) const
+{
+    return linkedHandle(fields().derivedDatatype, handle);
+}
+
+ZefReturnT TypeContainerWrapper::getEnum(uint64_t& handle) const
+{
+    return linkedHandle(fields().enumDatatype, handle);
+}
+
+ZefReturnT TypeContainerWrapper::getStruct(uint64_t& handle) const
+{
+    return linkedHandle(fields().structDatatype, handle);
+}
+
+ZefReturnT TypeContainerWrapper::getReferencedMoc(uint64_t& handle) const
+{
+    return linkedHandle(fields().referencedMoc, handle);
+}
+
+ZefReturnT TypeContainerWrapper::getDefaultValue(const char* const*& values) const
+{
+    values = _defaultValues;
+    return ZefOk;
+}
+
+ZefReturnT TypeContainerWrapper::getIsOrdered(bool& isOrdered) const
+{
+    isOrdered = fields().isOrdered;
+    return ZefOk;
+}
+
+ZefReturnT TypeContainerWrapper::getIsUnique(bool& isUnique) const
+{
+    isUnique = fields().isUnique;
+    return ZefOk;
+}
+
+ZefReturnT TypeContainerWrapper::getMultiplicityMin(uint64_t& min) const
+{
+    min = static_cast<uint64_t>(fields().multiplicityRange.min);
+    return ZefOk;
+}
+
+ZefReturnT TypeContainerWrapper::getMultiplicityMax(uint64_t& max) const
+{
+    max = static_cast<uint64_t>(fields().multiplicityRange.max);
+    return ZefOk;
+}
+
+ZefReturnT TypeContainerWrapper::addDefaultValue(const std::string& text)
+{
+    // A new array of count + 1 entries plus the terminator keeps the values
+    // in the order added and the array readable at any time.
+    char** grown = new char*[_defaultValueCount + 2];
+    for (size_t i = 0; i < _defaultValueCount; ++i) {
+        grown[i] = _defaultValues[i];
+    }
+    grown[_defaultValueCount] = MrUtil::toChar(text);
+    grown[_defaultValueCount + 1] = nullptr;
+    delete[] _defaultValues;
+    _defaultValues = grown;
+    ++_defaultValueCount;
+    return ZefOk;
+}
+
+} // namespace ZefModelRepositoryService
