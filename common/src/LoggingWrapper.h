@@ -1,8 +1,11 @@
 #ifndef ZEF_LOGGING_WRAPPER_H
 #define ZEF_LOGGING_WRAPPER_H
 
+#include <atomic>
 #include <cstdio>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "ZefMgmtSpi.h"
 
@@ -32,14 +35,20 @@ public:
     /// default log directory is missing or not writable.
     static LoggingWrapper* instance();
 
-    unsigned int get_level() const { return _level; }
+    /// The log level threshold; callers log at level N only when it is at least N.
+    unsigned int get_level() const { return _level.load(std::memory_order_relaxed); }
     void set_level(unsigned int level);
+    /// Size in bytes above which the active file is rotated.
     void set_max_size(unsigned int maxSize);
+    /// The full path of the active log file.
     std::string get_fname() const;
     /// Switches to another log file (closes the current one) when the name differs.
     void set_fname(const std::string& fname);
 
+    /// Attaches a log interface ("ZefMwSpiLog" version "1"); null detaches.
     void set_log_spi(ZefMgmtSpiInterface_1* spi);
+    /// Attaches a trace interface of version "1" or "2" (the latter gets the
+    /// trace subsystems registered); null or another version detaches both.
     void set_trace_spi(ZefMgmtSpiInterface_1* spi);
 
     /// Writes one log line of level 0-6; callers pass facility 1.
@@ -55,20 +64,55 @@ public:
     /// Detaches every interface and closes the file; later calls only complain.
     void close();
 
-    // Rotation internals, public for the unit tests.
+    // Rotation internals, public for the unit tests. Callers hold the lock.
+    /// Rotates the active file when it has grown beyond max size.
     void check_and_rotate_log_file();
+    /// Moves the active file to a numbered file and drops the oldest ones.
     void rotateLogs();
 
     LoggingWrapper(const LoggingWrapper&) = delete;
     LoggingWrapper& operator=(const LoggingWrapper&) = delete;
 
 private:
+    /// A numbered old log file found in the log directory.
+    struct NumberedFile {
+        int number;
+        std::string path;
+    };
+    typedef std::vector<NumberedFile> NumberedFileList;
+
     LoggingWrapper();
+    ~LoggingWrapper();
+
+    /// Aborts the process when the default log directory is missing or not writable.
+    static void checkDefaultDirectory(const std::string& dir);
+    /// Applies ZEF_LOGGING_FNAME, ZEF_LOGGING_LEVEL, ZEF_LOGGING_FMAXCOUNT and ZEF_LOGGING_FMAXSIZE.
+    void readEnvironment();
+
+    /// Opens the active file in append mode; on failure lines go to standard error.
+    void openFile();
+    /// Closes the active file (if any) and forgets it.
+    void closeFile();
+    /// Writes one line and its newline to the active file, or to standard
+    /// error when no file is open. `flush` pushes the file buffer to disk.
+    void writeLine(const char* line, size_t length, bool flush);
+
+    /// Numbered files of the log directory, ascending by number, then path.
+    void getFileMatches(NumberedFileList& list) const;
+    /// Renames the listed files to first index, first index + 1, ...
+    void renumberFiles(NumberedFileList& list) const;
+    /// Deletes the lowest-numbered files until at most max count remain listed.
+    void removeOldLogFiles(NumberedFileList& list) const;
+    /// directory + "/" + base name + "." + index.
+    std::string nameForIndex(int index) const;
+    /// Parses a whole text as a non-negative base-10 number.
+    static bool parseNumber(const char* text, int* number);
 
     ZefMwSpiLog_1* _logSpi = nullptr;
     ZefMwSpiTrace_1* _traceSpi1 = nullptr;
     ZefMwSpiTrace_2* _traceSpi2 = nullptr;
-    unsigned int _level = 6;
+    // Read without the lock by every logging macro.
+    std::atomic<unsigned int> _level{6};
     unsigned int _maxSize = 5242880;
     unsigned int _maxCount = 5;
     std::string _fname;
@@ -79,7 +123,13 @@ private:
     FILE* _file = nullptr;
     bool _closed = false;
 
-    static LoggingWrapper* theInstance;
+    // Size of the active file: taken from the file once at open, then counted
+    // as lines are written, so that the rotation check needs no system call.
+    unsigned long long _fileSize = 0;
+    bool _fileSizeKnown = false;
+    std::unique_ptr<char[]> _fileBuffer;
+
+    static std::atomic<LoggingWrapper*> theInstance;
     static ZefThreadLock _lock;
 
     friend class LoggingWrapperTestAccess;

@@ -1,0 +1,369 @@
+#include "LoggingWrapper.h"
+
+#include <sys/stat.h>
+#include <sys/time.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdarg>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+
+#include "ZefScopedLock.h"
+#include "ZefThreadLock.h"
+
+namespace Zef {
+
+namespace {
+
+// Buffer sizes of one line: the message part is formatted into
+// kMessageSize characters, the finished line is cut at kLineSize - 1.
+const size_t kMessageSize = 800;
+const size_t kLineSize = 1000;
+const int kTimeSize = 24;
+const int kPathTailSize = 65;
+
+const unsigned int kHighestLogLevel = 6;
+const unsigned int kTraceLevel = 8;
+const int kRawFacility = 13;
+const int kTraceEnter = 9;
+const int kTraceLeave = 10;
+
+const char* const kDefaultDirectory = "/tmp";
+const char* const kDefaultBaseName = "zef.log";
+
+// Handles of the trace subsystems, filled in by a version "2" trace interface.
+ZefMwSpiTraceSubsystemHandle_2T zefCommonTraceHandle = 0;
+ZefMwSpiTraceSubsystemHandle_2T zefCoreTraceHandle = 0;
+ZefMwSpiTraceSubsystemHandle_2T zefAcTraceHandle = 0;
+ZefMwSpiTraceSubsystemHandle_2T zefCmRouterTraceHandle = 0;
+ZefMwSpiTraceSubsystemHandle_2T zefEventRouterTraceHandle = 0;
+ZefMwSpiTraceSubsystemHandle_2T zefThreadContextTraceHandle = 0;
+ZefMwSpiTraceSubsystemHandle_2T zefTransactionTraceHandle = 0;
+ZefMwSpiTraceSubsystemHandle_2T zefSessionTraceHandle = 0;
+ZefMwSpiTraceSubsystemHandle_2T zefSvsTraceHandle = 0;
+ZefMwSpiTraceSubsystemHandle_2T zefOtherTraceHandle = 0;
+
+struct TraceSubsystem {
+    const char* name;          // registered with the trace interface
+    const char* reportedName;  // named when the registration fails
+    ZefMwSpiTraceSubsystemHandle_2T* handle;
+};
+
+// Registered in this order. A failed registration of the transaction
+// subsystem is reported under the name of its service.
+const TraceSubsystem kTraceSubsystems[] = {
+    {"ZefCommon", "ZefCommon", &zefCommonTraceHandle},
+    {"ZefCore", "ZefCore", &zefCoreTraceHandle},
+    {"ZefAc", "ZefAc", &zefAcTraceHandle},
+    {"ZefCmRouter", "ZefCmRouter", &zefCmRouterTraceHandle},
+    {"ZefEventRouter", "ZefEventRouter", &zefEventRouterTraceHandle},
+    {"ZefModelRepository", "ZefModelRepository", &ZefModelRepositoryTraceHandle},
+    {"ZefThreadContext", "ZefThreadContext", &zefThreadContextTraceHandle},
+    {"ZefTransaction", "ZefTransactionService", &zefTransactionTraceHandle},
+    {"ZefSession", "ZefSession", &zefSessionTraceHandle},
+    {"ZefSvs", "ZefSvs", &zefSvsTraceHandle},
+    {"ZefOther", "ZefOther", &zefOtherTraceHandle},
+};
+
+/// snprintf's result as the length actually in the buffer.
+size_t writtenLength(int formatted, size_t bufferSize) {
+    if (formatted < 0)
+        return 0;
+    return std::min(static_cast<size_t>(formatted), bufferSize - 1);
+}
+
+const char* orNullText(const char* text) { return text != nullptr ? text : "(null)"; }
+
+} // namespace
+
+ZefMwSpiTraceSubsystemHandle_2T ZefModelRepositoryTraceHandle = 0;
+
+std::atomic<LoggingWrapper*> LoggingWrapper::theInstance{nullptr};
+ZefThreadLock LoggingWrapper::_lock;
+
+const char* _get_level_str(unsigned int level) {
+    static const char* const kWords[] = {"EM", "AL", "CR", "ER", "WA", "NO", "IN"};
+    if (level < sizeof(kWords) / sizeof(kWords[0]))
+        return kWords[level];
+    return "TR";
+}
+
+void fill_in_time_str(char* buf, int len) {
+    if (buf == nullptr || len <= 0)
+        return;
+    struct timeval now;
+    gettimeofday(&now, nullptr);
+    const int millis = static_cast<int>(now.tv_usec / 1000);
+
+    // Breaking the time down is the costly part; a trace-heavy run writes
+    // thousands of lines per second, so the date and time of the current
+    // second are kept per thread and only the milliseconds are renewed.
+    thread_local time_t cachedSecond = static_cast<time_t>(-1);
+    thread_local char cachedText[64] = "";  // room for any year the C library may give
+    if (now.tv_sec != cachedSecond) {
+        struct tm parts;
+        if (localtime_r(&now.tv_sec, &parts) == nullptr)
+            std::memset(&parts, 0, sizeof(parts));  // year 1900, January, all else zero
+        std::snprintf(cachedText, sizeof(cachedText), "%4d-%02d-%02d %02d:%02d:%02d", parts.tm_year + 1900,
+                      parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min, parts.tm_sec);
+        cachedSecond = now.tv_sec;
+    }
+    std::snprintf(buf, static_cast<size_t>(len), "%s.%03d", cachedText, millis);
+}
+
+const char* path_tail(const char* path, char* buf, int len) {
+    if (buf == nullptr || len <= 0)
+        return buf;
+    buf[0] = '\0';
+    if (path == nullptr)
+        return buf;
+    while (*path == ' ' || *path == '\t')
+        ++path;
+    size_t end = std::strlen(path);
+    while (end > 0 && (path[end - 1] == '/' || path[end - 1] == ' ' || path[end - 1] == '\t'))
+        --end;
+    size_t start = end;
+    while (start > 0 && path[start - 1] != '/')
+        --start;
+    const size_t length = std::min(end - start, static_cast<size_t>(len - 1));
+    std::memcpy(buf, path + start, length);
+    buf[length] = '\0';
+    return buf;
+}
+
+LoggingWrapper* LoggingWrapper::instance() {
+    LoggingWrapper* wrapper = theInstance.load(std::memory_order_acquire);
+    if (wrapper == nullptr) {
+        ZefScopedLock guard(_lock);
+        wrapper = theInstance.load(std::memory_order_relaxed);
+        if (wrapper == nullptr) {
+            wrapper = new LoggingWrapper();
+            theInstance.store(wrapper, std::memory_order_release);
+        }
+    }
+    return wrapper;
+}
+
+LoggingWrapper::LoggingWrapper() {
+    const char* tmpDir = std::getenv("TMPDIR");
+    _dir = tmpDir != nullptr ? tmpDir : kDefaultDirectory;
+    _baseName = kDefaultBaseName;
+    _fname = _dir + "/" + _baseName;
+    checkDefaultDirectory(_dir);
+    readEnvironment();
+}
+
+LoggingWrapper::~LoggingWrapper() { closeFile(); }
+
+void LoggingWrapper::checkDefaultDirectory(const std::string& dir) {
+    struct stat info;
+    if (stat(dir.c_str(), &info) != 0 || !S_ISDIR(info.st_mode)) {
+        std::fprintf(stderr, "Logging directory %s does not exist, aborting.\n", dir.c_str());
+        std::abort();
+    }
+    if (access(dir.c_str(), W_OK) != 0) {
+        std::fprintf(stderr, "Logging directory %s is not writable, aborting.\n", dir.c_str());
+        std::abort();
+    }
+}
+
+void LoggingWrapper::readEnvironment() {
+    const char* fname = std::getenv("ZEF_LOGGING_FNAME");
+    if (fname != nullptr) {
+        const std::string value(fname);
+        const std::string::size_type slash = value.rfind('/');
+        if (slash != std::string::npos) {
+            const std::string dirPart = value.substr(0, slash + 1);
+            char* resolved = realpath(dirPart.c_str(), nullptr);
+            _dir = resolved != nullptr ? std::string(resolved) : dirPart;
+            std::free(resolved);
+            _baseName = value.substr(slash + 1);
+            _fname = value;
+        }
+    }
+    // No validation on purpose: these are operator settings, read the way strtol reads them.
+    if (const char* level = std::getenv("ZEF_LOGGING_LEVEL"))
+        _level = static_cast<unsigned int>(std::strtol(level, nullptr, 10));
+    if (const char* count = std::getenv("ZEF_LOGGING_FMAXCOUNT"))
+        _maxCount = static_cast<unsigned int>(std::strtol(count, nullptr, 10));
+    if (const char* size = std::getenv("ZEF_LOGGING_FMAXSIZE"))
+        _maxSize = static_cast<unsigned int>(std::strtol(size, nullptr, 10));
+}
+
+void LoggingWrapper::set_level(unsigned int level) { _level.store(level, std::memory_order_relaxed); }
+
+void LoggingWrapper::set_max_size(unsigned int maxSize) {
+    ZefScopedLock guard(_lock);
+    _maxSize = maxSize;
+}
+
+std::string LoggingWrapper::get_fname() const {
+    ZefScopedLock guard(_lock);
+    return _fname;
+}
+
+void LoggingWrapper::set_fname(const std::string& fname) {
+    ZefScopedLock guard(_lock);
+    if (fname == _fname)
+        return;
+    _fname = fname;
+    closeFile();
+    // After close() nothing may be written any more, so the new file is not created.
+    if (!_closed)
+        openFile();
+}
+
+void LoggingWrapper::set_log_spi(ZefMgmtSpiInterface_1* spi) {
+    ZefScopedLock guard(_lock);
+    _logSpi = reinterpret_cast<ZefMwSpiLog_1*>(spi);
+}
+
+void LoggingWrapper::set_trace_spi(ZefMgmtSpiInterface_1* spi) {
+    ZefScopedLock guard(_lock);
+    _traceSpi1 = nullptr;
+    _traceSpi2 = nullptr;
+    if (spi == nullptr)
+        return;
+    const char* version = spi->interfaceVersion;
+    if (version != nullptr && std::strcmp(version, "1") == 0) {
+        _traceSpi1 = reinterpret_cast<ZefMwSpiTrace_1*>(spi);
+    } else if (version != nullptr && std::strcmp(version, "2") == 0) {
+        _traceSpi2 = reinterpret_cast<ZefMwSpiTrace_2*>(spi);
+        for (const TraceSubsystem& subsystem : kTraceSubsystems) {
+            if (_traceSpi2->registerSubsystem == nullptr ||
+                _traceSpi2->registerSubsystem(subsystem.name, subsystem.handle) != ZefOk)
+                std::fprintf(stderr, "Could not register %s subsystem in v2 of trace if\n", subsystem.reportedName);
+        }
+    } else {
+        std::fprintf(stderr, "Not a supported trace SPI version [%s]\n", orNullText(version));
+    }
+}
+
+void LoggingWrapper::log_printf(const char* function, unsigned int level, int facility, const char* format, ...) {
+    ZefScopedLock guard(_lock);
+    if (_closed) {
+        std::fprintf(stderr, "Logging after loggingWrapper has been closed! (:%s)\n", orNullText(function));
+        return;
+    }
+    if (level > kHighestLogLevel)
+        return;
+
+    ZefMwSpiLog_1* const spi = _logSpi;
+    if (spi == nullptr && _file == nullptr)
+        openFile();
+    else if (spi != nullptr && _file != nullptr)
+        closeFile();
+
+    char line[kLineSize];
+    size_t length = 0;
+    va_list args;
+    va_start(args, format);
+    if (facility == kRawFacility) {
+        length = writtenLength(std::vsnprintf(line, sizeof(line), format, args), sizeof(line));
+    } else {
+        char message[kMessageSize];
+        std::vsnprintf(message, sizeof(message), format, args);
+        if (spi == nullptr) {
+            char timeText[kTimeSize];
+            fill_in_time_str(timeText, sizeof(timeText));
+            length = writtenLength(std::snprintf(line, sizeof(line), "%s %2s %-25s %s", timeText,
+                                                 _get_level_str(level), orNullText(function), message),
+                                   sizeof(line));
+        } else {
+            length = writtenLength(
+                std::snprintf(line, sizeof(line), " %-25s %s", orNullText(function), message), sizeof(line));
+        }
+    }
+    va_end(args);
+
+    if (spi == nullptr) {
+        check_and_rotate_log_file();
+        // Log lines are few and are what an operator reads after a crash, so
+        // each goes to disk at once; the bulk of traces stays buffered.
+        writeLine(line, length, true);
+        return;
+    }
+    // The interface may log through this very wrapper again.
+    guard.release();
+    if (spi->log == nullptr || spi->log(1, level, facility, line) != ZefOk)
+        std::fprintf(stderr, "Failed to write '%s' to log interface!\n", line);
+}
+
+void LoggingWrapper::trace_printf(const char* file, const char* function, int line, unsigned int level, int kind,
+                                  const char* format, ...) {
+    ZefScopedLock guard(_lock);
+    if (_closed) {
+        std::fprintf(stderr, "Logging after loggingWrapper has been closed! (%s:%s:%d)\n", orNullText(file),
+                     orNullText(function), line);
+        return;
+    }
+    // A version "2" interface gets its traces from trace_v2_printf.
+    if (_traceSpi2 != nullptr || level != kTraceLevel)
+        return;
+
+    char fileTail[kPathTailSize];
+    path_tail(file, fileTail, sizeof(fileTail));
+    char message[kMessageSize];
+    va_list args;
+    va_start(args, format);
+    std::vsnprintf(message, sizeof(message), format, args);
+    va_end(args);
+
+    char text[kLineSize];
+    ZefMwSpiTrace_1* const spi = _traceSpi1;
+    if (spi != nullptr) {
+        std::snprintf(text, sizeof(text), "%-24s:%-5d - %-25s %s", fileTail, line, orNullText(function), message);
+        guard.release();
+        if (kind == kTraceEnter) {
+            if (spi->enter != nullptr)
+                spi->enter(text);
+        } else if (kind == kTraceLeave) {
+            if (spi->leave != nullptr)
+                spi->leave(text);
+        } else if (spi->print != nullptr) {
+            spi->print(level, text);
+        }
+        return;
+    }
+
+    if (_file == nullptr)
+        openFile();
+    char timeText[kTimeSize];
+    fill_in_time_str(timeText, sizeof(timeText));
+    const size_t length =
+        writtenLength(std::snprintf(text, sizeof(text), "%s %2s %-24s:%-5d - %-25s %s", timeText,
+                                    _get_level_str(level), fileTail, line, orNullText(function), message),
+                      sizeof(text));
+    check_and_rotate_log_file();
+    writeLine(text, length, false);
+}
+
+void LoggingWrapper::trace_v2_printf(ZefMwSpiTraceSubsystemHandle_2T subsystem, ZefMwSpiTraceLevelT level,
+                                     const char* file, const char* function, unsigned int line, const char* format,
+                                     ...) {
+    ZefScopedLock guard(_lock);
+    if (_traceSpi2 == nullptr)
+        return;
+    closeFile();
+    if (_traceSpi2->print == nullptr)
+        return;
+    va_list args;
+    va_start(args, format);
+    _traceSpi2->print(subsystem, level, file, function, line, format, args);
+    va_end(args);
+}
+
+void LoggingWrapper::close() {
+    ZefScopedLock guard(_lock);
+    if (_closed)
+        return;
+    _logSpi = nullptr;
+    _traceSpi1 = nullptr;
+    _traceSpi2 = nullptr;
+    closeFile();
+    _closed = true;
+}
+
+} // namespace Zef

@@ -1,0 +1,185 @@
+// The log file of LoggingWrapper: opening, writing, and rotation into
+// numbered old files.
+
+#include "LoggingWrapper.h"
+
+#include <dirent.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+
+namespace Zef {
+
+namespace {
+
+// Trace-heavy runs write millions of lines; a large buffer keeps the number
+// of write calls low.
+const size_t kFileBufferSize = 64 * 1024;
+
+bool isWritable(const std::string& path) { return access(path.c_str(), W_OK) == 0; }
+
+} // namespace
+
+void LoggingWrapper::openFile() {
+    _file = std::fopen(_fname.c_str(), "a");
+    if (_file == nullptr) {
+        std::perror("Failed to open log file!");
+        return;
+    }
+    if (!_fileBuffer)
+        _fileBuffer.reset(new char[kFileBufferSize]);
+    std::setvbuf(_file, _fileBuffer.get(), _IOFBF, kFileBufferSize);
+    struct stat info;
+    _fileSizeKnown = fstat(fileno(_file), &info) == 0;
+    _fileSize = _fileSizeKnown ? static_cast<unsigned long long>(info.st_size) : 0;
+}
+
+void LoggingWrapper::closeFile() {
+    if (_file == nullptr)
+        return;
+    if (std::fclose(_file) != 0) {
+        const int error = errno;
+        std::fprintf(stderr, "Failed to close log file. Errno: %d: %s\n", error, std::strerror(error));
+    }
+    _file = nullptr;
+    _fileSizeKnown = false;
+    _fileSize = 0;
+}
+
+void LoggingWrapper::writeLine(const char* line, size_t length, bool flush) {
+    if (_file == nullptr) {
+        std::fprintf(stderr, "%s\n", line);
+        std::fflush(stderr);
+        return;
+    }
+    _fileSize += std::fwrite(line, 1, length, _file);
+    if (std::fputc('\n', _file) != EOF)
+        ++_fileSize;
+    if (flush)
+        std::fflush(_file);
+}
+
+void LoggingWrapper::check_and_rotate_log_file() {
+    if (_closed) {
+        std::fprintf(stderr, "LoggingWrapper::check_and_rotate_log_file: LoggingWrapper has been closed!\n");
+        return;
+    }
+    if (_file == nullptr)
+        return;
+    if (!_fileSizeKnown) {
+        // The size could not be taken when the file was opened; ask the file
+        // system, with everything written so far on disk.
+        std::fflush(_file);
+        struct stat info;
+        if (stat(_fname.c_str(), &info) != 0) {
+            const int error = errno;
+            std::fprintf(stderr, "Failed to stat log file. Errno: %d: %s\n", error, std::strerror(error));
+            closeFile();
+            return;
+        }
+        _fileSize = static_cast<unsigned long long>(info.st_size);
+    }
+    if (_fileSize > _maxSize) {
+        closeFile();
+        rotateLogs();
+        openFile();
+    }
+}
+
+void LoggingWrapper::rotateLogs() {
+    NumberedFileList list;
+    getFileMatches(list);
+    if (list.empty()) {
+        list.push_back({_firstIndex, nameForIndex(_firstIndex)});
+    } else {
+        const int highest = list.back().number;
+        struct stat info;
+        const bool highestIsFull = stat(list.back().path.c_str(), &info) == 0 &&
+                                   static_cast<unsigned long long>(info.st_size) >= _maxSize;
+        // A highest file with room left is replaced by the active file
+        // instead of taking a new number.
+        if (highestIsFull) {
+            list.push_back({highest + 1, nameForIndex(highest + 1)});
+            if (highest >= _lastIndex)
+                renumberFiles(list);
+        }
+    }
+    removeOldLogFiles(list);
+    if (!isWritable(_fname))
+        return;
+    if (list.empty()) {
+        // A max count of 0 keeps no old file at all.
+        unlink(_fname.c_str());
+        return;
+    }
+    std::rename(_fname.c_str(), list.back().path.c_str());
+}
+
+void LoggingWrapper::getFileMatches(NumberedFileList& list) const {
+    DIR* dir = opendir(_dir.c_str());
+    if (dir == nullptr) {
+        std::fprintf(stderr, "Failed to open dir %s\n\n", _dir.c_str());
+        return;
+    }
+    while (struct dirent* entry = readdir(dir)) {
+        const std::string name(entry->d_name);
+        // Only names that begin with the base name count, so that a file
+        // such as "backup-zef.log.1" beside the log is never taken for an
+        // old log file and deleted. A separator character and the number follow.
+        const std::string::size_type numberAt = _baseName.size() + 1;
+        if (name.size() <= numberAt || name.compare(0, _baseName.size(), _baseName) != 0)
+            continue;
+        int number = 0;
+        if (parseNumber(name.c_str() + numberAt, &number))
+            list.push_back({number, _dir + "/" + name});
+    }
+    closedir(dir);
+    std::sort(list.begin(), list.end(), [](const NumberedFile& a, const NumberedFile& b) {
+        return a.number != b.number ? a.number < b.number : a.path < b.path;
+    });
+}
+
+void LoggingWrapper::renumberFiles(NumberedFileList& list) const {
+    int index = _firstIndex;
+    for (NumberedFile& file : list) {
+        const std::string path = nameForIndex(index);
+        if (isWritable(file.path))
+            std::rename(file.path.c_str(), path.c_str());
+        file.number = index;
+        file.path = path;
+        ++index;
+    }
+}
+
+void LoggingWrapper::removeOldLogFiles(NumberedFileList& list) const {
+    while (list.size() > _maxCount) {
+        if (isWritable(list.front().path))
+            unlink(list.front().path.c_str());
+        list.erase(list.begin());
+    }
+}
+
+std::string LoggingWrapper::nameForIndex(int index) const {
+    return _dir + "/" + _baseName + "." + std::to_string(index);
+}
+
+bool LoggingWrapper::parseNumber(const char* text, int* number) {
+    // strtol alone would also take blanks and signs in front of the digits.
+    if (!std::isdigit(static_cast<unsigned char>(text[0])))
+        return false;
+    errno = 0;
+    char* end = nullptr;
+    const long value = std::strtol(text, &end, 10);
+    if (*end != '\0' || errno == ERANGE || value > INT_MAX)
+        return false;
+    *number = static_cast<int>(value);
+    return true;
+}
+
+} // namespace Zef
