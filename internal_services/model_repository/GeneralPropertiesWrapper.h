@@ -76,6 +76,10 @@ public:
 
     ZefOamSpiGeneralProperties& getStruct() { return _gp; }
     const ZefOamSpiGeneralProperties& getStruct() const { return _gp; }
+    /// This object: the general properties part of an element record (whose
+    /// own getStruct() returns the element's record).
+    GeneralPropertiesWrapper& getGeneralProperties() { return *this; }
+    const GeneralPropertiesWrapper& getGeneralProperties() const { return *this; }
     /// The element name, or the empty string when none is set.
     std::string getName() const;
 

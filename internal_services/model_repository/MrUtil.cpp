@@ -190,5 +190,26 @@ std::string joinKey(std::initializer_list<const char*> parts)
     return key;
 }
 
+int findMissingKeyPart(std::initializer_list<const char*> parts, bool& isNull)
+{
+    int index = 0;
+    for (const char* part : parts) {
+        if (part == nullptr) {
+            isNull = true;
+            return index;
+        }
+        ++index;
+    }
+    index = 0;
+    for (const char* part : parts) {
+        if (*part == '\0') {
+            isNull = false;
+            return index;
+        }
+        ++index;
+    }
+    return -1;
+}
+
 } // namespace MrUtil
 } // namespace ZefModelRepositoryService

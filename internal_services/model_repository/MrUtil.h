@@ -158,6 +158,12 @@ std::string typeName(int typeCode);
 /// Joins identity key parts with the separator "~".
 std::string joinKey(std::initializer_list<const char*> parts);
 
+/// Finds the part of an identity key that makes it impossible to build:
+/// first the first null part, otherwise the first empty part. Returns its
+/// index (isNull tells which of the two it is) or -1 when every part is set.
+/// Key builders use it to pick their failure message.
+int findMissingKeyPart(std::initializer_list<const char*> parts, bool& isNull);
+
 } // namespace MrUtil
 
 } // namespace ZefModelRepositoryService

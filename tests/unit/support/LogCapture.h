@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "LoggingWrapper.h"
+#include "LoggingWrapperTestAccess.h"
 
 namespace ZefTest {
 
@@ -49,6 +50,7 @@ public:
     /// Every line written so far.
     std::vector<std::string> lines() const
     {
+        Zef::LoggingWrapperTestAccess::flush();
         std::vector<std::string> result;
         std::ifstream in(_fname);
         std::string line;
@@ -85,9 +87,35 @@ public:
     /// The error messages (level word "ER").
     std::vector<std::string> errors() const { return messages("ER"); }
 
+    /// The messages of the trace lines, in order: the text after
+    /// "<file>:<line> - <function padded to 25> ".
+    std::vector<std::string> traces() const
+    {
+        std::vector<std::string> result;
+        for (const std::string& line : lines()) {
+            const size_t levelPos = 24;
+            if (line.size() < levelPos + 3 || line.compare(levelPos, 3, "TR ") != 0) {
+                continue;
+            }
+            const size_t dash = line.find(" - ", levelPos + 3);
+            if (dash == std::string::npos) {
+                continue;
+            }
+            const size_t functionPos = dash + 3;
+            size_t functionEnd = line.find(' ', functionPos);
+            if (functionEnd == std::string::npos) {
+                functionEnd = line.size();
+            }
+            const size_t messagePos = std::max(functionPos + 25, functionEnd) + 1;
+            result.push_back(messagePos <= line.size() ? line.substr(messagePos) : std::string());
+        }
+        return result;
+    }
+
     /// The whole file as one text.
     std::string text() const
     {
+        Zef::LoggingWrapperTestAccess::flush();
         std::ifstream in(_fname);
         std::ostringstream content;
         content << in.rdbuf();

@@ -1,0 +1,38 @@
+#include <gtest/gtest.h>
+
+#include <type_traits>
+
+#include "RefId.h"
+
+using namespace ZefModelRepositoryService;
+
+TEST(RefIdTest, KeyIsMomNameVersionAndName)
+{
+    RefId ref;
+    ref.setRefName("C");
+    ref.setRefMomName("m");
+    ref.setRefMomVersion("1.0");
+    EXPECT_EQ("C", ref.getRefName());
+    EXPECT_EQ("m", ref.getRefMomName());
+    EXPECT_EQ("1.0", ref.getRefMomVersion());
+    EXPECT_EQ("m~1.0~C", ref.getRefId());
+}
+
+TEST(RefIdTest, EmptyPartsGiveEmptySegments)
+{
+    RefId ref;
+    EXPECT_EQ("~~", ref.getRefId());
+    ref.setRefName("E");
+    EXPECT_EQ("~~E", ref.getRefId());
+    ref.setRefMomVersion("2");
+    EXPECT_EQ("~2~E", ref.getRefId());
+}
+
+TEST(RefIdTest, LaterValuesReplaceEarlierOnes)
+{
+    RefId ref;
+    ref.setRefMomName("qcimName");
+    ref.setRefMomName("m");
+    EXPECT_EQ("m", ref.getRefMomName());
+    static_assert(std::has_virtual_destructor<RefId>::value, "RefId is polymorphic");
+}
