@@ -171,17 +171,8 @@ void LoggingWrapper::checkDefaultDirectory(const std::string& dir) {
 
 void LoggingWrapper::readEnvironment() {
     const char* fname = std::getenv("ZEF_LOGGING_FNAME");
-    if (fname != nullptr) {
-        const std::string value(fname);
-        const std::string::size_type slash = value.rfind('/');
-        if (slash != std::string::npos) {
-            const std::string dirPart = value.substr(0, slash + 1);
-            char* resolved = realpath(dirPart.c_str(), nullptr);
-            _dir = resolved != nullptr ? std::string(resolved) : dirPart;
-            std::free(resolved);
-            _baseName = value.substr(slash + 1);
-            _fname = value;
-        }
+    if (fname != nullptr && std::strchr(fname, '/') != nullptr) {
+        adoptPath(fname);
     }
     // No validation on purpose: these are operator settings, read the way strtol reads them.
     if (const char* level = std::getenv("ZEF_LOGGING_LEVEL"))
@@ -190,6 +181,19 @@ void LoggingWrapper::readEnvironment() {
         _maxCount = static_cast<unsigned int>(std::strtol(count, nullptr, 10));
     if (const char* size = std::getenv("ZEF_LOGGING_FMAXSIZE"))
         _maxSize = static_cast<unsigned int>(std::strtol(size, nullptr, 10));
+}
+
+void LoggingWrapper::adoptPath(const std::string& path) {
+    // Numbered old files live beside the active file and are named after it,
+    // so a log moved elsewhere rotates where it is written (a rename never
+    // crosses file systems) and never touches another program's zef.log.N.
+    const std::string::size_type slash = path.rfind('/');
+    const std::string dirPart = slash == std::string::npos ? std::string(".") : path.substr(0, slash + 1);
+    char* resolved = realpath(dirPart.c_str(), nullptr);
+    _dir = resolved != nullptr ? std::string(resolved) : dirPart;
+    std::free(resolved);
+    _baseName = slash == std::string::npos ? path : path.substr(slash + 1);
+    _fname = path;
 }
 
 void LoggingWrapper::set_level(unsigned int level) { _level.store(level, std::memory_order_relaxed); }
@@ -208,7 +212,7 @@ void LoggingWrapper::set_fname(const std::string& fname) {
     ZefScopedLock guard(_lock);
     if (fname == _fname)
         return;
-    _fname = fname;
+    adoptPath(fname);
     closeFile();
     // After close() nothing may be written any more, so the new file is not created.
     if (!_closed)

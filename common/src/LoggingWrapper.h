@@ -88,6 +88,9 @@ private:
     static void checkDefaultDirectory(const std::string& dir);
     /// Applies ZEF_LOGGING_FNAME, ZEF_LOGGING_LEVEL, ZEF_LOGGING_FMAXCOUNT and ZEF_LOGGING_FMAXSIZE.
     void readEnvironment();
+    /// Makes `path` the active file name, its folder the log folder and its
+    /// last component the base name of the numbered old files.
+    void adoptPath(const std::string& path);
 
     /// Opens the active file in append mode; on failure lines go to standard error.
     void openFile();

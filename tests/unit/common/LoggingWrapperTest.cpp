@@ -1068,18 +1068,33 @@ TEST_F(LoggingWrapperTest, RotateLogsOfAnEmptyFolderTakesTheFirstIndex) {
     EXPECT_EQ("active\n", ScratchDir::read(scratch.file("zef.log.1")));
 }
 
-TEST_F(LoggingWrapperTest, RotationKeepsTheDirectoryAndBaseNameWhenTheFileNameChanges) {
+TEST_F(LoggingWrapperTest, RotationFollowsTheFileNameWhenItChanges) {
+    scratch.write("zef.log.1", "another program's old log\n");
     logger()->set_fname(scratch.file("validator.log"));
     logger()->set_max_size(100);
     writeSequence(1, 11);
-    EXPECT_EQ((std::vector<std::string>{"validator.log", "zef.log.1"}), scratch.entries());
-    EXPECT_EQ(sequence(1, 10), ScratchDir::lines(scratch.file("zef.log.1")));
+    EXPECT_EQ((std::vector<std::string>{"validator.log", "validator.log.1", "zef.log.1"}), scratch.entries());
+    EXPECT_EQ(sequence(1, 10), ScratchDir::lines(scratch.file("validator.log.1")));
     EXPECT_EQ(sequence(11, 11), ScratchDir::lines(scratch.file("validator.log")));
+    EXPECT_EQ("another program's old log\n", ScratchDir::read(scratch.file("zef.log.1")));
+}
+
+TEST_F(LoggingWrapperTest, RotationOfABareFileNameHappensInTheCurrentFolder) {
+    char cwd[4096];
+    ASSERT_NE(nullptr, getcwd(cwd, sizeof(cwd)));
+    ASSERT_EQ(0, chdir(scratch.file("").c_str()));
+    logger()->set_fname("bare.log");
+    logger()->set_max_size(100);
+    writeSequence(1, 11);
+    logger()->set_fname(logPath());
+    ASSERT_EQ(0, chdir(cwd));
+    EXPECT_EQ(sequence(1, 10), ScratchDir::lines(scratch.file("bare.log.1")));
+    EXPECT_EQ(sequence(11, 11), ScratchDir::lines(scratch.file("bare.log")));
 }
 
 TEST_F(LoggingWrapperTest, UnreadableLogDirectoryIsReported) {
-    LoggingWrapperTestAccess::useDirectory(scratch.file("gone"));
     logger()->set_fname(logPath());
+    LoggingWrapperTestAccess::setDirectoryOnly(scratch.file("gone"));
     logger()->set_max_size(10);
     writeSequence(1, 1);
     CaptureStderr();

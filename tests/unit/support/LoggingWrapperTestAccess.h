@@ -17,6 +17,13 @@ class LoggingWrapperTestAccess {
 public:
     /// Resets the singleton to its defaults (level 6, max size 5 MiB, max
     /// count 5, no interface attached, not closed) writing dir + "/" + baseName.
+    /// Points rotation at another folder without touching the active file.
+    static void setDirectoryOnly(const std::string& dir) {
+        LoggingWrapper* wrapper = LoggingWrapper::instance();
+        ZefScopedLock guard(LoggingWrapper::_lock);
+        wrapper->_dir = dir;
+    }
+
     static void useDirectory(const std::string& dir, const std::string& baseName = "zef.log") {
         LoggingWrapper* wrapper = LoggingWrapper::instance();
         ZefScopedLock guard(LoggingWrapper::_lock);
