@@ -1,7 +1,9 @@
 #ifndef ZEF_MODEL_PARSER_H
 #define ZEF_MODEL_PARSER_H
 
+#include <cstdarg>
 #include <string>
+#include <vector>
 
 #include "ZefOamSpiMrTypes.h"
 #include "ZefReturn.h"
@@ -93,6 +95,30 @@ public:
     bool isCommonUnsupportedDatatype(const std::string& name);
     void handleBaseType(Node& baseType, DdtWrapper& ddt);
 
+    /// The attributes of `node` in the DOM's order (none for a node that is
+    /// not an element), each traced "Found attribute: %s=%s.".
+    std::vector<Attr*> attributesOf(Node& node);
+    /// Turns a setter result into a warning: ZefOk is silent, ZefAlreadyExists
+    /// reports `alreadySetFormat`, any other result `failedFormat`; both
+    /// formats take the same arguments.
+    void reportSetterResult(ZefReturnT result, const char* alreadySetFormat, const char* failedFormat, ...);
+    /// True for "deprecated", "obsolete" and "preliminary".
+    static bool isStatusWord(const std::string& name);
+    /// Applies a status word to an element: "deprecated" sets status 2 and
+    /// "DEPRECATED", "obsolete" status 3 and "OBSOLETE", "preliminary" only
+    /// the text "PRELIMINARY". Returns the result of the numeric setter (the
+    /// text setter's for "preliminary"); ZefInvalidArgument for another word.
+    ZefReturnT setStatusWord(const std::string& word, GeneralPropertiesWrapper& properties);
+    /// The code of a primitive data type name ("int8" ... "double");
+    /// ZefMrType3NotSet for any other name.
+    static ZefOamSpiMrType_3 primitiveTypeCode(const std::string& name);
+    /// The code of a reference name ("moRef" 11, "enumRef" 12,
+    /// "derivedDataTypeRef" 13, "structRef" 14); ZefMrType3NotSet otherwise.
+    static ZefOamSpiMrType_3 referenceTypeCode(const std::string& name);
+    /// The "name" attribute of an element, trimmed, for traces only (no
+    /// warning); empty when there is none.
+    static std::string nameAttributeOf(Node& element);
+
     // ---- classes and their members (ModelParserClasses.cpp) -----------------
 
     /// The class record, or null when the class is refused.
@@ -146,6 +172,44 @@ public:
     void handleAssociationEnd(Node& end, AssociationEndWrapper& record);
 
 private:
+    // ---- frame and mim level (ModelParser.cpp) ------------------------------
+
+    /// checkThrowException on a va_list: logs the formatted text at its level
+    /// and hands it to the repository as a finding of "ModelParser".
+    void vcheckThrowException(unsigned short level, const char* format, va_list args)
+        __attribute__((format(printf, 3, 0)));
+    /// Makes a MOM reachable through the query interface.
+    void publishMom(MomWrapper& mom);
+
+    // ---- classes and their members (ModelParserClasses.cpp) -----------------
+
+    /// Makes a class reachable through the query interface.
+    void publishMoc(MocWrapper& moc);
+    /// Deletes a class that no registry holds, with the attributes and
+    /// actions it lists (once a class is registered they belong to the
+    /// repository; before that nobody else knows them).
+    static void discardMoc(MocWrapper* moc);
+    /// Makes an action reachable through the query interface.
+    void publishAction(MoActionWrapper& action);
+    /// Reads one child element of a class; `mocName` names it in findings.
+    void processMocChild(Node& child, MocWrapper& moc, const std::string& mocName);
+    /// Reads one child element of an attribute.
+    void processAttrChild(Node& child, AttrWrapper& attr, const std::string& attrName);
+
+    // ---- data types (ModelParserDataTypes.cpp) ------------------------------
+
+    /// Makes a derived type and its ranges reachable through the query
+    /// interface.
+    void publishDdt(DdtWrapper& ddt);
+
+    // ---- relationships (ModelParserRelationships.cpp) -----------------------
+
+    /// Make an association end and the two kinds of association reachable
+    /// through the query interface.
+    void publishAssociationEnd(AssociationEndWrapper& end);
+    void publishBidir(BiDirAssociationWrapper& assoc);
+    void publishUnidir(UniDirAssociationWrapper& assoc);
+
     ModelRepository* _repository;
     bool _standalone = false;
 };
