@@ -31,7 +31,8 @@ public:
     Poco::AutoPtr<Poco::XML::NodeList> getElementsByTagName(const std::string& name) const;
 
     /// The held document, or null.
-    Poco::XML::Document* getDocument() const { return _document.get(); }
+    Poco::XML::Document* getDocument() { return _document.get(); }
+    const Poco::XML::Document* getDocument() const { return _document.get(); }
 
 private:
     Poco::AutoPtr<Poco::XML::Document> _document;
