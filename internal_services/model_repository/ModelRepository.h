@@ -4,8 +4,11 @@
 #include <cstdarg>
 #include <list>
 #include <map>
+#include <set>
 #include <string>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "MocWrapper.h"
 #include "ZefOamSpiMrTypes.h"
@@ -191,6 +194,12 @@ public:
 private:
     // Logs a finding at its level and reports it as the repository's own.
     void report(unsigned short level, const char* format, ...) __attribute__((format(printf, 3, 4)));
+    // The common checks of a map-based add: null, incomplete, duplicate.
+    template <typename Map, typename Record, typename IncompleteText>
+    ZefReturnT addRecord(Map& map, Record* record, const char* nullText, IncompleteText incompleteText,
+                         const char* duplicateFormat);
+    // The classes of one plain name, in key order.
+    const std::vector<MocWrapper*>& mocsNamed(const std::string& mocName);
 
     std::list<std::string> _messages;
     char _messageBuffer[4096];
@@ -209,6 +218,13 @@ private:
     bool _standalone = false;
     std::string _mainRootName;
     MocWrapper _anyClassMoc;
+
+    // Indexes that keep lookups by name linear in the size of the model.
+    std::set<std::string> _momKeys;
+    std::unordered_map<std::string, std::vector<MocWrapper*>> _mocsByName;
+    bool _mocsByNameValid = false;
+    std::unordered_map<std::string, MomWrapper*> _qcimMomIndex;
+    bool _qcimMomIndexValid = false;
 };
 
 } // namespace ZefModelRepositoryService
