@@ -5,7 +5,7 @@
 set -euo pipefail
 
 packages=(
-  g++ cmake make pkg-config
+  g++ cmake make pkg-config dpkg-dev groff-base man-db gzip
   libpoco-dev libexpat1
   libgtest-dev libbenchmark-dev
 )
