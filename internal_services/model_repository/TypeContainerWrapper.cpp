@@ -1,5 +1,6 @@
 #include "TypeContainerWrapper.h"
 
+#include "AttrWrapper.h"
 #include "MrUtil.h"
 
 namespace ZefModelRepositoryService {
@@ -21,8 +22,10 @@ ZefReturnT linkedHandle(const Record* record, uint64_t& handle)
 
 TypeContainerWrapper::TypeContainerWrapper(const ZefOamSpiDatatypeContainer* container) : _container(container)
 {
-    _defaultValues = new char*[1];
-    _defaultValues[0] = nullptr;
+}
+
+TypeContainerWrapper::TypeContainerWrapper(const AttrWrapper* attr) : _attr(attr)
+{
 }
 
 TypeContainerWrapper::~TypeContainerWrapper()
@@ -35,6 +38,11 @@ TypeContainerWrapper::~TypeContainerWrapper()
 
 TypeContainerWrapper::Fields TypeContainerWrapper::fields() const
 {
+    if (_attr != nullptr) {
+        const ZefOamSpiMoAttribute& a = _attr->getStruct();
+        return Fields{a.type,          a.derivedDatatype,   a.enumDatatype, a.structDatatype,
+                      a.referencedMoc, a.multiplicityRange, a.isOrdered,    a.isUnique};
+    }
     const ZefOamSpiDatatypeContainer& c = *_container;
     return Fields{c.type,          c.derivedDatatype,   c.enumDatatype, c.structDatatype,
                   c.referencedMoc, c.multiplicityRange, c.isOrdered,    c.isUnique};

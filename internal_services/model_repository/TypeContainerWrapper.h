@@ -22,6 +22,10 @@ class TypeContainerWrapper {
 public:
     /// Reads `container`, which must outlive this object.
     explicit TypeContainerWrapper(const ZefOamSpiDatatypeContainer* container);
+    /// Reads the record of `attr`, which must outlive this object (an
+    /// attribute passes itself while it is being constructed: the record is
+    /// only read later).
+    explicit TypeContainerWrapper(const AttrWrapper* attr);
     /// Frees the default-value array and its strings.
     ~TypeContainerWrapper();
 
@@ -73,7 +77,8 @@ private:
 
     const ZefOamSpiDatatypeContainer* _container = nullptr;
     const AttrWrapper* _attr = nullptr;
-    char** _defaultValues = nullptr;
+    /// Always a valid array: the values added so far and a null terminator.
+    char** _defaultValues = new char* [1] { nullptr };
     size_t _defaultValueCount = 0;
     uint64_t _handle = 0;
 };

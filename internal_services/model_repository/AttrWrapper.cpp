@@ -1,0 +1,296 @@
+#include "AttrWrapper.h"
+
+#include <sstream>
+
+#include "DdtWrapper.h"
+#include "EnumWrapper.h"
+#include "MocWrapper.h"
+#include "MrUtil.h"
+#include "ZefLog.h"
+
+namespace ZefModelRepositoryService {
+
+AttrWrapper::AttrWrapper()
+    : GeneralPropertiesWrapper(_attr.generalProperties, &_attr.generalPropertiesHandle), _typeContainer(this)
+{
+    setInitialValues();
+    _attr.moc = nullptr;
+    _attr.type = ZefMrType3NotSet;
+    _attr.derivedDatatype = nullptr;
+    _attr.enumDatatype = nullptr;
+    _attr.structDatatype = nullptr;
+    _attr.referencedMoc = nullptr;
+    _attr.isKey = false;
+    _attr.isMandatory = false;
+    _attr.isPersistent = true;
+    _attr.isReadOnly = false;
+    _attr.multiplicityRange.min = 1;
+    _attr.multiplicityRange.max = 1;
+    _attr.isOrdered = false;
+    _attr.isUnique = true;
+    _attr.defaultValue = nullptr;
+    _attr.unit = nullptr;
+    _attr.next = nullptr;
+    _attr.handle = 0;
+    _attr.generalPropertiesHandle = 0;
+}
+
+AttrWrapper::~AttrWrapper()
+{
+    MrUtil::cleanGeneralPropertiesHlp(_attr.generalProperties);
+    MrUtil::freeString(_attr.defaultValue);
+    MrUtil::freeString(_attr.unit);
+}
+
+std::string AttrWrapper::getAttrId(const char* momName, const char* momVersion, const char* mocName,
+                                   const char* attrName)
+{
+    static const char* const nullMessages[] = {
+        "Couldn't get attribute id, momName is NULL", "Couldn't get attribute id, momVersion is NULL",
+        "Couldn't get attribute id, moc name is NULL", "Couldn't get attribute id, attr name is NULL"};
+    static const char* const emptyMessages[] = {
+        "Couldn't get attribute id, momName is no set", "Couldn't get attribute id, momVersion is no set",
+        "Couldn't get attribute id, moc name is not set", "Couldn't get attribute id, attribute name is not set"};
+    bool isNull = false;
+    const int missing = MrUtil::findMissingKeyPart({momName, momVersion, mocName, attrName}, isNull);
+    if (missing >= 0) {
+        ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "%s", (isNull ? nullMessages : emptyMessages)[missing]);
+        return std::string();
+    }
+    return MrUtil::joinKey({momName, momVersion, mocName, attrName});
+}
+
+std::string AttrWrapper::getAttrId(const ZefOamSpiMoAttribute* attr)
+{
+    if (attr == nullptr) {
+        ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "Couldn't get attribute id, attr is NULL");
+        return std::string();
+    }
+    if (attr->moc == nullptr) {
+        ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "Couldn't get attribute id, attr->moc is NULL");
+        return std::string();
+    }
+    const ZefOamSpiMom* mom = attr->moc->mom;
+    if (mom == nullptr) {
+        ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "Couldn't get attribute id, attr->moc->mom is NULL");
+        return std::string();
+    }
+    return getAttrId(mom->generalProperties.name, mom->version, attr->moc->generalProperties.name,
+                     attr->generalProperties.name);
+}
+
+std::string AttrWrapper::getId() const
+{
+    if (_id.empty()) {
+        _id = getAttrId(&_attr);
+    }
+    return _id;
+}
+
+ZefReturnT AttrWrapper::setMoc(const ZefOamSpiMoc* moc)
+{
+    _attr.moc = moc;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setType(ZefOamSpiMrType_3 type)
+{
+    _attr.type = type;
+    _type = type;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setDerivedDatatype(const ZefOamSpiDerivedDatatype* ddt)
+{
+    _attr.derivedDatatype = ddt;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setEnumDatatype(const ZefOamSpiEnum* enumeration)
+{
+    _attr.enumDatatype = enumeration;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setStructDatatype(const ZefOamSpiStruct* structure)
+{
+    _attr.structDatatype = structure;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setReferencedMoc(const ZefOamSpiMoc* moc)
+{
+    _attr.referencedMoc = moc;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setIsKey(bool isKey)
+{
+    _attr.isKey = isKey;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setIsMandatory(bool isMandatory)
+{
+    _attr.isMandatory = isMandatory;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setIsPersistent(bool isPersistent)
+{
+    _attr.isPersistent = isPersistent;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setIsReadOnly(bool isReadOnly)
+{
+    _attr.isReadOnly = isReadOnly;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setIsOrdered(bool isOrdered)
+{
+    _attr.isOrdered = isOrdered;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setIsUnique(bool isUnique)
+{
+    _attr.isUnique = isUnique;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setIsRestricted(bool isRestricted)
+{
+    _isRestricted = isRestricted;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setIsNotifiable(bool isNotifiable)
+{
+    _isNotifiable = isNotifiable;
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setMin(const std::string& text)
+{
+    return MrUtil::setMinHlp(_attr.multiplicityRange, _isMinSet, text);
+}
+
+ZefReturnT AttrWrapper::setMax(const std::string& text)
+{
+    return MrUtil::setMaxHlp(_attr.multiplicityRange, _isMaxSet, text);
+}
+
+ZefReturnT AttrWrapper::setDefaultValue(const std::string& text)
+{
+    return MrUtil::setDefaultValueHlp(text, _attr.defaultValue);
+}
+
+ZefReturnT AttrWrapper::setUnit(const std::string& unit)
+{
+    if (_attr.unit != nullptr) {
+        return ZefAlreadyExists;
+    }
+    _attr.unit = MrUtil::toChar(unit);
+    return ZefOk;
+}
+
+ZefReturnT AttrWrapper::setNext(AttrWrapper* next)
+{
+    if (next == nullptr) {
+        ZEF_TRACE("This happens only at init of Attribute list for a Moc");
+        _next = nullptr;
+        _attr.next = nullptr;
+        return ZefOk;
+    }
+    _next = next;
+    _attr.next = &next->_attr;
+    return ZefOk;
+}
+
+const ZefOamSpiMom* AttrWrapper::findMom() const
+{
+    if (_attr.moc == nullptr) {
+        ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "MOC is not set");
+        return nullptr;
+    }
+    if (_attr.moc->mom == nullptr) {
+        ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "MOM is not set");
+        return nullptr;
+    }
+    return _attr.moc->mom;
+}
+
+std::string AttrWrapper::getMomName() const
+{
+    const ZefOamSpiMom* mom = findMom();
+    return mom != nullptr ? MrUtil::str(mom->generalProperties.name) : std::string();
+}
+
+std::string AttrWrapper::getMomVersion() const
+{
+    const ZefOamSpiMom* mom = findMom();
+    return mom != nullptr ? MrUtil::str(mom->version) : std::string();
+}
+
+namespace {
+
+/// Key of a type that lives in a MOM (enum, derived type), built with the
+/// builder of its kind; the empty text when the type is not linked.
+template <typename Record, typename Builder>
+std::string typeKey(const Record* record, Builder builder)
+{
+    if (record == nullptr) {
+        return std::string();
+    }
+    const ZefOamSpiMom* mom = record->mom;
+    return builder(mom != nullptr ? mom->generalProperties.name : nullptr, mom != nullptr ? mom->version : nullptr,
+                   record->generalProperties.name);
+}
+
+} // namespace
+
+std::string AttrWrapper::toString() const
+{
+    const std::string indent = "    ";
+    std::ostringstream out;
+    out << MrUtil::headerToStringHlp("Attribute ", _attr.generalProperties.name, indent)
+        << MrUtil::generalPropertiesToStringHlp(_attr.generalProperties, indent)
+        << indent << "Moc:               " << (_attr.moc != nullptr ? MocWrapper::getMocId(_attr.moc) : "") << '\n'
+        << indent << "Type:              " << static_cast<int>(_attr.type) << '\n';
+    switch (_attr.type) {
+    case ZefMrType3Enum:
+        out << indent << "EnumDatatype:      " << typeKey(_attr.enumDatatype, EnumWrapper::getEnumId) << '\n';
+        break;
+    case ZefMrType3Reference:
+        // A reference without a named target stands for any class.
+        out << indent << "ReferencedMoc:     "
+            << (_attr.referencedMoc == nullptr || _attr.referencedMoc->generalProperties.name == nullptr
+                    ? std::string("ManagedObject")
+                    : MocWrapper::getMocId(_attr.referencedMoc))
+            << '\n';
+        break;
+    case ZefMrType3Derived:
+        out << indent << "DerivedDatatype:   " << typeKey(_attr.derivedDatatype, DdtWrapper::getDdtId) << '\n';
+        break;
+    default:
+        break;
+    }
+    out << indent << "IsKey:             " << _attr.isKey << '\n'
+        << indent << "IsMandatory:       " << _attr.isMandatory << '\n'
+        << indent << "IsPersistent:      " << _attr.isPersistent << '\n'
+        << indent << "IsReadOnly:        " << _attr.isReadOnly << '\n'
+        << indent << "IsRetricted:       " << _isRestricted << '\n'
+        << indent << "IsNotifiable:  " << _isNotifiable << '\n'
+        << indent << "MultiplicityMin:   " << _attr.multiplicityRange.min << '\n'
+        << indent << "MultiplicityMax:   " << _attr.multiplicityRange.max << '\n'
+        << indent << "IsOrdered:         " << _attr.isOrdered << '\n'
+        << indent << "IsUnique:          " << _attr.isUnique << '\n'
+        << indent << "DefaultValue:      " << MrUtil::str(_attr.defaultValue) << '\n'
+        << indent << "Unit:              " << MrUtil::str(_attr.unit) << '\n'
+        << indent << "NextAttribute:     " << (_attr.next != nullptr ? getAttrId(_attr.next) : "") << '\n';
+    return out.str();
+}
+
+} // namespace ZefModelRepositoryService
