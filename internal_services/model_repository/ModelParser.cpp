@@ -1,0 +1,594 @@
+#include "ModelParser.h"
+
+#include <cstdio>
+#include <memory>
+#include <set>
+
+#include <Poco/AutoPtr.h>
+#include <Poco/DOM/Attr.h>
+#include <Poco/DOM/Element.h>
+#include <Poco/DOM/NamedNodeMap.h>
+#include <Poco/DOM/Node.h>
+#include <Poco/DOM/NodeList.h>
+#include <Poco/String.h>
+
+#include "DdtWrapper.h"
+#include "EnumWrapper.h"
+#include "GeneralPropertiesWrapper.h"
+#include "MocWrapper.h"
+#include "ModelRepository.h"
+#include "MomWrapper.h"
+#include "MrUtil.h"
+#include "StructWrapper.h"
+#include "ZefConfiguration.h"
+#include "ZefException.h"
+#include "ZefLog.h"
+
+namespace ZefModelRepositoryService {
+
+namespace {
+
+using Poco::XML::Attr;
+using Poco::XML::Node;
+
+const char* const kWrongFormat = "Configuration File does not have the correct format";
+const char* const kMomNotLoaded = "Mom not loaded:";
+
+bool isElement(const Node& node) { return node.nodeType() == Node::ELEMENT_NODE; }
+
+// The formats of the warnings about a value the MOM record refused: the
+// attribute or element name and the mim node's name.
+const char* const kMomAlreadySet = "The %s of the mom (%s) is already set.";
+const char* const kMomFailedToSet = "Failed to set %s of the mom (%s).";
+
+using MomSetter = ZefReturnT (*)(MomWrapper&, const std::string&);
+
+// The attributes of "mim" that are stored, with the setter of each.
+const std::pair<const char*, MomSetter> kMomAttributes[] = {
+    {"name", [](MomWrapper& mom, const std::string& v) { return mom.getGeneralProperties().setName(v); }},
+    {"version", [](MomWrapper& mom, const std::string& v) { return mom.setVersion(v); }},
+    {"correction", [](MomWrapper& mom, const std::string& v) { return mom.setCorrection(v); }},
+    {"release", [](MomWrapper& mom, const std::string& v) { return mom.setRelease(v); }},
+    {"author", [](MomWrapper& mom, const std::string& v) { return mom.setAuthor(v); }},
+    {"docNo", [](MomWrapper& mom, const std::string& v) { return mom.setDocNo(v); }},
+    {"revision", [](MomWrapper& mom, const std::string& v) { return mom.setRevision(v); }},
+    {"namespace", [](MomWrapper& mom, const std::string& v) { return mom.setNamespaceURI(v); }},
+    {"namespacePrefix", [](MomWrapper& mom, const std::string& v) { return mom.setNamespacePrefix(v); }},
+    {"organization", [](MomWrapper& mom, const std::string& v) { return mom.setOrganization(v); }},
+};
+
+// The warning about a status word the MOM refused. The texts of obsolete and
+// preliminary say "cont" and are misspelled; tools that read the findings
+// know them in this form.
+const char* momStatusFailure(const std::string& word) {
+    if (word == "deprecated") {
+        return "Failed to set type (deprecated) of the mom (%s).";
+    }
+    if (word == "obsolete") {
+        return "Failed to set type (obsolate) of the cont (%s).";
+    }
+    return "Failed to set type (priliminary) of the cont (%s).";
+}
+
+MomSetter findMomSetter(const std::string& attributeName) {
+    for (const auto& entry : kMomAttributes) {
+        if (attributeName == entry.first) {
+            return entry.second;
+        }
+    }
+    return nullptr;
+}
+
+// Hands a record produced by a child handler to the repository; a record the
+// repository refuses stays ours and is deleted by the holder. A null record
+// (refused by its handler) is not handed over at all. The holder also deletes
+// the record when the repository throws on its refusal (outside standalone
+// mode).
+template <typename T, typename Discard>
+bool addToRepository(std::unique_ptr<T, Discard> holder, ZefReturnT (ModelRepository::*add)(T*),
+                     ModelRepository& repository) {
+    if (!holder) {
+        return false;
+    }
+    if ((repository.*add)(holder.get()) != ZefOk) {
+        return false;
+    }
+    holder.release();
+    return true;
+}
+
+template <typename T>
+std::unique_ptr<T> hold(T* record) {
+    return std::unique_ptr<T>(record);
+}
+
+} // namespace
+
+ModelParser::ModelParser(ModelRepository& repository) : _repository(&repository) {}
+
+ModelParser::~ModelParser() = default;
+
+int ModelParser::parse(const std::string& fileName) {
+    if (_repository == nullptr) {
+        ZEF_LOG_ERROR("Model must have an instance of ModelRepository.");
+        return -2;
+    }
+    ZEF_TRACE("Parsing file '%s'", fileName.c_str());
+
+    Zef::ZefConfiguration document;
+    Poco::AutoPtr<Poco::XML::NodeList> models;
+    try {
+        document.load(fileName);
+        models = document.getElementsByTagName("models");
+    } catch (const Zef::ZefException& e) {
+        ZEF_LOG_ERROR("Error in the Model");
+        ZEF_TRACE("%s", e.what());
+        return -1;
+    } catch (const std::exception& e) {
+        ZEF_LOG_ERROR("Got exception: %s", e.what());
+        return -1;
+    }
+
+    // A document that is not a model file at all is the caller's problem,
+    // not a finding in the model: this one escapes on purpose.
+    if (models.isNull() || models->length() != 1) {
+        ZEF_LOG_ERROR("%s", kWrongFormat);
+        throw Zef::ZefInternalErrorException(std::string(kWrongFormat));
+    }
+
+    try {
+        processModelsNode(*models->item(0), fileName);
+    } catch (const Zef::ZefException& e) {
+        ZEF_LOG_ERROR("Error in the Model");
+        ZEF_TRACE("%s", e.what());
+        return -1;
+    } catch (const std::exception& e) {
+        ZEF_LOG_ERROR("Got exception: %s", e.what());
+        return -1;
+    }
+    return 0;
+}
+
+void ModelParser::processModelsNode(Node& models, const std::string& fileName) {
+    ZEF_TRACE_ENTER(" >> Processing models: %s.", models.nodeName().c_str());
+
+    for (Attr* attr : attributesOf(models)) {
+        if (attr->name() == "dtdDocNo" || attr->name() == "dtdRevision") {
+            ignoreUnsupportedAttributeLog(*attr);
+        } else {
+            ignoreUnknownAttributeLog(*attr);
+        }
+    }
+
+    std::string text;
+    for (Node* child = models.firstChild(); child != nullptr; child = child->nextSibling()) {
+        switch (child->nodeType()) {
+        case Node::ELEMENT_NODE:
+            if (child->nodeName() == "mim") {
+                try {
+                    processMomNode(*child, fileName);
+                } catch (const std::exception&) {
+                    // The rest of the file is not read: its elements may
+                    // refer to the MOM that failed.
+                    checkThrowException(3, "%s", kMomNotLoaded);
+                    return;
+                }
+            } else if (child->nodeName() == "interMim") {
+                processInterMimNode(*child);
+            } else {
+                ignoreUnknownElementLog(*child);
+            }
+            break;
+        case Node::TEXT_NODE:
+            ZEF_TRACE("Temporary text: '%s' + '%s'.", text.c_str(), child->nodeValue().c_str());
+            text += child->nodeValue();
+            break;
+        case Node::COMMENT_NODE:
+            ZEF_TRACE("Ignoring Comment: %s.", child->nodeName().c_str());
+            break;
+        default:
+            ignoreUnsupportedElementTypeLog(*child);
+            break;
+        }
+    }
+    Poco::trimInPlace(text);
+    ZEF_TRACE("Text: '%s'.", text.c_str());
+    ZEF_TRACE_LEAVE(" << Processed models: %s.", models.nodeName().c_str());
+}
+
+MomWrapper* ModelParser::processMomNode(Node& mim, const std::string& fileName) {
+    ZEF_TRACE_ENTER(" >> Processing mim: %s.", nameAttributeOf(mim).c_str());
+
+    std::unique_ptr<MomWrapper> holder(new MomWrapper());
+    holder->setFileName(fileName);
+    for (Attr* attr : attributesOf(mim)) {
+        const std::string& name = attr->name();
+        if (const MomSetter setter = findMomSetter(name)) {
+            reportSetterResult(setter(*holder, getPocoData(attr)), kMomAlreadySet, kMomFailedToSet, name.c_str(),
+                               mim.nodeName().c_str());
+        } else if (name == "date" || name == "contact") {
+            ignoreUnsupportedAttributeLog(*attr);
+        } else {
+            ignoreUnknownAttributeLog(*attr);
+        }
+    }
+
+    // The MOM is registered before its children: they refer to it.
+    MomWrapper* mom = holder.get();
+    if (!addToRepository(std::move(holder), &ModelRepository::addMom, *_repository)) {
+        return nullptr;
+    }
+
+    GeneralPropertiesWrapper& properties = mom->getGeneralProperties();
+    for (Node* child = mim.firstChild(); child != nullptr; child = child->nextSibling()) {
+        if (!isElement(*child)) {
+            ignoreUnsupportedElementTypeLog(*child);
+            continue;
+        }
+        const std::string& name = child->nodeName();
+        if (name == "class") {
+            addToRepository(std::unique_ptr<MocWrapper, void (*)(MocWrapper*)>(processMocNode(*child, *mom), &discardMoc),
+                            &ModelRepository::addMoc, *_repository);
+        } else if (name == "enum") {
+            addToRepository(hold(processEnumNode(*child, *mom)), &ModelRepository::addEnum, *_repository);
+        } else if (name == "derivedDataType") {
+            addToRepository(hold(processDdtNode(*child, *mom)), &ModelRepository::addDdt, *_repository);
+        } else if (name == "struct") {
+            if (!addToRepository(hold(processStructNode(child, mom)), &ModelRepository::addStruct, *_repository)) {
+                checkThrowException(3, "Failed to process a struct for the mom(%s).", mom->getId().c_str());
+            }
+        } else if (name == "relationship") {
+            processRelationshipNode(*child, *mom);
+        } else if (name == "description") {
+            reportSetterResult(properties.setDescription(getPcdata(*child)), kMomAlreadySet, kMomFailedToSet,
+                               name.c_str(), mim.nodeName().c_str());
+        } else if (name == "domainExtension") {
+            handleDomainExtension(child, &properties);
+        } else if (isStatusWord(name)) {
+            if (setStatusWord(name, properties) != ZefOk) {
+                checkThrowException(4, momStatusFailure(name), properties.getName().c_str());
+            }
+        } else if (name == "applicationTag" || name == "copyright" || name == "exception") {
+            ignoreUnsupportedElementLog(*child);
+        } else if (name == "modelFeatures") {
+            handleModelFeatures(child, mom);
+        } else {
+            ignoreUnknownElementLog(*child);
+        }
+    }
+
+    publishMom(*mom);
+    ZEF_TRACE_LEAVE(" << Processed mim: %s.", properties.getName().c_str());
+    return mom;
+}
+
+void ModelParser::publishMom(MomWrapper& /*mom*/) {
+    // query-interface object created here once the interface objects exist
+}
+
+void ModelParser::handleModelFeatures(Node* modelFeatures, MomWrapper* mom) {
+    for (Attr* attr : attributesOf(*modelFeatures)) {
+        if (attr->name() == "modelType") {
+            // Read for the trimming check only; the repository does not keep it.
+            getPocoData(attr);
+        } else {
+            ignoreUnsupportedAttributeLog(*attr);
+        }
+    }
+    for (Node* child = modelFeatures->firstChild(); child != nullptr; child = child->nextSibling()) {
+        if (!isElement(*child)) {
+            ignoreUnsupportedElementTypeLog(*child);
+            continue;
+        }
+        if (child->nodeName() != "modelFeature") {
+            continue;
+        }
+        for (Attr* attr : attributesOf(*child)) {
+            if (attr->name() == "name") {
+                mom->setModelFeatureNames(getPocoData(attr));
+            } else if (attr->name() == "featureType") {
+                getPocoData(attr);
+            } else {
+                ignoreUnsupportedAttributeLog(*attr);
+            }
+        }
+        for (Node* item = child->firstChild(); item != nullptr; item = item->nextSibling()) {
+            ignoreUnknownElementLog(*item);
+        }
+    }
+}
+
+// ---- shared readers ---------------------------------------------------------
+
+std::vector<Poco::XML::Attr*> ModelParser::attributesOf(Node& node) {
+    std::vector<Attr*> result;
+    // attributes() hands out a new map (null for non-elements); the holder
+    // releases it, the attributes themselves stay with their element.
+    Poco::AutoPtr<Poco::XML::NamedNodeMap> attributes(node.attributes());
+    if (attributes.isNull()) {
+        return result;
+    }
+    const unsigned long count = attributes->length();
+    result.reserve(count);
+    for (unsigned long index = 0; index < count; ++index) {
+        Attr* attr = static_cast<Attr*>(attributes->item(index));
+        ZEF_TRACE("Found attribute: %s=%s.", attr->name().c_str(), attr->value().c_str());
+        result.push_back(attr);
+    }
+    return result;
+}
+
+std::string ModelParser::nameAttributeOf(Node& element) {
+    if (!isElement(element)) {
+        return std::string();
+    }
+    return Poco::trim(static_cast<Poco::XML::Element&>(element).getAttribute("name"));
+}
+
+std::string ModelParser::getPocoData(Attr* attr) {
+    if (attr == nullptr) {
+        return std::string();
+    }
+    const std::string& value = attr->value();
+    std::string trimmed = Poco::trim(value);
+    if (trimmed.size() != value.size()) {
+        checkThrowException(4, "Node attribute value contains leading and/or trailing white space, trimming \"%s\" to \"%s\".",
+                            value.c_str(), trimmed.c_str());
+    }
+    return trimmed;
+}
+
+std::string ModelParser::getPcdata(Node& element) {
+    std::string text;
+    for (Node* child = element.firstChild(); child != nullptr; child = child->nextSibling()) {
+        // A CDATA section is text as well: a description may quote markup.
+        if (child->nodeType() == Node::TEXT_NODE || child->nodeType() == Node::CDATA_SECTION_NODE) {
+            text += child->nodeValue();
+        } else {
+            ignoreUnsupportedElementTypeLog(*child);
+        }
+    }
+    return text;
+}
+
+void ModelParser::ignoreUnknownElementLog(Node& node) {
+    if (node.nodeType() == Node::COMMENT_NODE) {
+        ZEF_TRACE("Ignoring comment: %s.", node.nodeName().c_str());
+    } else {
+        ZEF_TRACE("Ignoring unknown element: %s.", node.nodeName().c_str());
+    }
+}
+
+void ModelParser::ignoreUnsupportedElementLog(Node& node) {
+    if (node.nodeType() == Node::COMMENT_NODE) {
+        ZEF_TRACE("Ignoring comment: %s.", node.nodeName().c_str());
+    } else {
+        ZEF_TRACE("Ignoring unsupported element: %s.", node.nodeName().c_str());
+    }
+}
+
+void ModelParser::ignoreUnsupportedElementTypeLog(Node& node) {
+    if (node.nodeType() == Node::COMMENT_NODE) {
+        ZEF_TRACE("Ignoring comment: %s.", node.nodeName().c_str());
+    } else {
+        ZEF_TRACE("Ignoring XML items of type: %u; name: %s; value: %s.", static_cast<unsigned>(node.nodeType()),
+                  node.nodeName().c_str(), node.nodeValue().c_str());
+    }
+}
+
+void ModelParser::ignoreUnknownAttributeLog(Attr& attr) {
+    ZEF_TRACE("Ignoring unknown attribute: %s, %s", attr.name().c_str(), attr.value().c_str());
+}
+
+void ModelParser::ignoreUnsupportedAttributeLog(Attr& attr) {
+    ZEF_TRACE("Ignoring unsupported attribute: %s, %s", attr.name().c_str(), attr.value().c_str());
+}
+
+void ModelParser::ignoreAllAttributes(Node& node) {
+    for (Attr* attr : attributesOf(node)) {
+        ignoreUnknownAttributeLog(*attr);
+    }
+}
+
+void ModelParser::checkThrowException(unsigned short level, const char* format, ...) {
+    va_list args;
+    va_start(args, format);
+    try {
+        vcheckThrowException(level, format, args);
+    } catch (...) {
+        va_end(args);
+        throw;
+    }
+    va_end(args);
+}
+
+void ModelParser::vcheckThrowException(unsigned short level, const char* format, va_list args) {
+    if (Zef::LoggingWrapper::instance()->get_level() >= level) {
+        // The same text as the repository records, cut at the same length.
+        char message[4096];
+        va_list copy;
+        va_copy(copy, args);
+        std::vsnprintf(message, sizeof(message), format, copy);
+        va_end(copy);
+        ZEF_LOG(level, "%s", message);
+    }
+    _repository->checkThrowException("ModelParser", level, format, args);
+}
+
+void ModelParser::reportSetterResult(ZefReturnT result, const char* alreadySetFormat, const char* failedFormat, ...) {
+    if (result == ZefOk) {
+        return;
+    }
+    va_list args;
+    va_start(args, failedFormat);
+    try {
+        vcheckThrowException(4, result == ZefAlreadyExists ? alreadySetFormat : failedFormat, args);
+    } catch (...) {
+        va_end(args);
+        throw;
+    }
+    va_end(args);
+}
+
+bool ModelParser::isStatusWord(const std::string& name) {
+    return name == "deprecated" || name == "obsolete" || name == "preliminary";
+}
+
+ZefReturnT ModelParser::setStatusWord(const std::string& word, GeneralPropertiesWrapper& properties) {
+    if (word == "deprecated") {
+        const ZefReturnT result = properties.setStatus(ZefOamSpiStatusDeprecated);
+        properties.setStatus_3("DEPRECATED");
+        return result;
+    }
+    if (word == "obsolete") {
+        const ZefReturnT result = properties.setStatus(ZefOamSpiStatusObsolete);
+        properties.setStatus_3("OBSOLETE");
+        return result;
+    }
+    if (word == "preliminary") {
+        return properties.setStatus_3("PRELIMINARY");
+    }
+    return ZefInvalidArgument;
+}
+
+Poco::XML::Node* ModelParser::initTypes(Node& dataType) {
+    ZEF_TRACE_ENTER(" >> Processing datatype initialization: %s.", dataType.nodeName().c_str());
+    Node* type = nullptr;
+    for (Node* child = dataType.firstChild(); child != nullptr; child = child->nextSibling()) {
+        if (!isElement(*child)) {
+            ignoreUnsupportedElementTypeLog(*child);
+        } else if (type == nullptr) {
+            type = child;
+        } else {
+            checkThrowException(4, "%s can only define one data type at a time -- considering only one, ignoring the rest.",
+                                type->nodeName().c_str());
+        }
+    }
+    if (type == nullptr) {
+        checkThrowException(3, "Could not find element in datatype: %s.", dataType.nodeName().c_str());
+    }
+    ZEF_TRACE_LEAVE(" << Processed datatype initialization: %s.", dataType.nodeName().c_str());
+    return type;
+}
+
+ZefOamSpiMrType_3 ModelParser::primitiveTypeCode(const std::string& name) {
+    static const std::pair<const char*, ZefOamSpiMrType_3> kPrimitives[] = {
+        {"int8", ZefMrType3Int8},     {"int16", ZefMrType3Int16},   {"int32", ZefMrType3Int32},
+        {"int64", ZefMrType3Int64},   {"uint8", ZefMrType3UInt8},   {"uint16", ZefMrType3UInt16},
+        {"uint32", ZefMrType3UInt32}, {"uint64", ZefMrType3UInt64}, {"string", ZefMrType3String},
+        {"boolean", ZefMrType3Bool},  {"double", ZefMrType3Double},
+    };
+    for (const auto& entry : kPrimitives) {
+        if (name == entry.first) {
+            return entry.second;
+        }
+    }
+    return ZefMrType3NotSet;
+}
+
+ZefOamSpiMrType_3 ModelParser::referenceTypeCode(const std::string& name) {
+    if (name == "moRef") {
+        return ZefMrType3Reference;
+    }
+    if (name == "enumRef") {
+        return ZefMrType3Enum;
+    }
+    if (name == "derivedDataTypeRef") {
+        return ZefMrType3Derived;
+    }
+    if (name == "structRef") {
+        return ZefMrType3Struct;
+    }
+    return ZefMrType3NotSet;
+}
+
+bool ModelParser::isCommonUnsupportedDatatype(const std::string& name) {
+    static const std::set<std::string> kUnsupported = {"octet", "char", "float", "long", "longlong", "short",
+                                                       "wstring"};
+    return kUnsupported.count(name) != 0;
+}
+
+ZefReturnT ModelParser::ifPrimitiveValueCheckElseIgnore(std::string& value, ZefOamSpiMrType_3 type) {
+    switch (type) {
+    case ZefMrType3Int8: {
+        signed char number;
+        return MrUtil::toInt(value, number);
+    }
+    case ZefMrType3Int16: {
+        short number;
+        return MrUtil::toInt(value, number);
+    }
+    case ZefMrType3Int32: {
+        int number;
+        return MrUtil::toInt(value, number);
+    }
+    case ZefMrType3Int64: {
+        long long number;
+        return MrUtil::toInt(value, number);
+    }
+    case ZefMrType3UInt8: {
+        unsigned char number;
+        return MrUtil::toInt(value, number);
+    }
+    case ZefMrType3UInt16: {
+        unsigned short number;
+        return MrUtil::toInt(value, number);
+    }
+    case ZefMrType3UInt32: {
+        unsigned int number;
+        return MrUtil::toInt(value, number);
+    }
+    case ZefMrType3UInt64: {
+        unsigned long long number;
+        return MrUtil::toInt(value, number);
+    }
+    case ZefMrType3Double: {
+        double number;
+        return MrUtil::toDouble(value, number);
+    }
+    case ZefMrType3Bool:
+        Poco::toLowerInPlace(value);
+        return value == "true" || value == "1" || value == "false" || value == "0" ? ZefOk : ZefInvalidArgument;
+    default:
+        return ZefOk;
+    }
+}
+
+void ModelParser::handleBaseType(Node& baseType, DdtWrapper& ddt) {
+    ZEF_TRACE_ENTER(" >> handling base type: %s.", baseType.nodeName().c_str());
+    Node* type = initTypes(baseType);
+    if (type == nullptr) {
+        return;
+    }
+    const std::string& name = type->nodeName();
+    const ZefOamSpiMrType_3 code = primitiveTypeCode(name);
+    switch (code) {
+    case ZefMrType3NotSet:
+        // A derived type can only restrict a primitive type.
+        if (isCommonUnsupportedDatatype(name) || name == "sequence" || referenceTypeCode(name) != ZefMrType3NotSet) {
+            ignoreUnsupportedElementLog(*type);
+        } else {
+            ignoreUnknownElementLog(*type);
+        }
+        break;
+    case ZefMrType3Bool:
+        ddt.setType(code);
+        handleBoolDefaultValue(*type, ddt);
+        break;
+    case ZefMrType3String:
+        ddt.setType(code);
+        handleDdtStringDataType(*type, ddt);
+        break;
+    case ZefMrType3Double:
+        ddt.setType(code);
+        handleDoubleDataType(*type, ddt);
+        break;
+    default:
+        ddt.setType(code);
+        handleIntDataType(*type, ddt);
+        break;
+    }
+    ZEF_TRACE_LEAVE(" << handled base type: %s.", baseType.nodeName().c_str());
+}
+
+} // namespace ZefModelRepositoryService
