@@ -1,2 +1,370 @@
-// Command-line entry of zef_model_validator (being built up).
-int main() { return 0; }
+// zef_model_validator: loads a set of model files into the model repository,
+// prints a summary of the findings and tells through its exit status whether
+// the model is valid.
+
+#include "ModelValidator.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <getopt.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <exception>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <Poco/String.h>
+
+#include "ModelRepositoryService.h"
+#include "ZefException.h"
+#include "ZefLog.h"
+
+using ZefModelRepositoryService::ModelRepositoryService;
+
+const char* shortOptions = "vhc:d:p:qm:";
+const char* version = ZEF_VALIDATOR_VERSION;
+
+namespace {
+
+const struct option kLongOptions[] = {
+    {"help", no_argument, nullptr, 'h'},
+    {"version", no_argument, nullptr, 'v'},
+    {"directory", required_argument, nullptr, 'd'},
+    {"config", required_argument, nullptr, 'c'},
+    {"plugins", required_argument, nullptr, 'p'},
+    {"mainroot", required_argument, nullptr, 'm'},
+    {"quiet", no_argument, nullptr, 'q'},
+    {nullptr, 0, nullptr, 0},
+};
+
+const size_t kReadBlockSize = 8192;
+
+void printLine(const std::string& text) {
+    std::fputs(text.c_str(), stdout);
+    std::fputc('\n', stdout);
+}
+
+// Reads a whole regular file in blocks. The file is opened without blocking
+// and checked before any read, so a FIFO or a device named as a list file
+// cannot stall the run.
+std::string readRegularFile(const std::string& path) {
+    int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) {
+        throw Zef::ZefException(ZefFailure, "Cannot open file '%s': %s", path.c_str(), std::strerror(errno));
+    }
+    struct stat st;
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+        ::close(fd);
+        throw Zef::ZefException(ZefFailure, "Cannot read file '%s': not a regular file", path.c_str());
+    }
+    std::string content;
+    std::vector<char> block(kReadBlockSize);
+    for (;;) {
+        ssize_t n = ::read(fd, block.data(), block.size());
+        if (n < 0 && errno == EINTR) {
+            continue;
+        }
+        if (n < 0) {
+            int err = errno;
+            ::close(fd);
+            throw Zef::ZefException(ZefFailure, "Cannot read file '%s': %s", path.c_str(), std::strerror(err));
+        }
+        if (n == 0) {
+            break;
+        }
+        content.append(block.data(), static_cast<size_t>(n));
+    }
+    ::close(fd);
+    return content;
+}
+
+std::string logFileName() { return Zef::LoggingWrapper::instance()->get_fname(); }
+
+} // namespace
+
+void initLoggingWrapper() {
+    std::string name;
+    const char* fname = std::getenv("ZEF_VALIDATOR_LOGGING_FNAME");
+    const char* tmpdir = std::getenv("TMPDIR");
+    const char* user = std::getenv("USER");
+    if (fname != nullptr) {
+        name = fname;
+    } else if (tmpdir != nullptr) {
+        // The file name keeps its leading slash when joined to the folder, so
+        // the name holds a doubled separator; scripts that look for the log
+        // depend on this exact form.
+        std::string dir = tmpdir;
+        if (dir.empty() || dir.back() != '/') {
+            dir += '/';
+        }
+        name = dir + "/zef_model_validator_" + (user != nullptr ? user : "") + ".log";
+    } else {
+        name = std::string("/tmp/zef_model_validator_") + (user != nullptr ? user : "user") + ".log";
+    }
+
+    Zef::LoggingWrapper* logger = Zef::LoggingWrapper::instance();
+    logger->set_fname(name);
+    const char* level = std::getenv("ZEF_VALIDATOR_LOGGING_LEVEL");
+    logger->set_level(level != nullptr ? static_cast<unsigned int>(std::strtol(level, nullptr, 10)) : 8u);
+}
+
+void displayHelp() {
+    std::string text;
+    text += "Usage: zef_model_validator [options] file..\n";
+    text += "Options:\n";
+    text += "  -h --help                      Display this information\n";
+    text += "  -v --version                   Display version information\n";
+    text += "  -d --directory <directory>     Specify directory of model files\n";
+    text += "  -c --config file               Specify file containing model files\n";
+    text += "  -p --plugins <semicolon-separated list of paths to libraries>     Specify libraries for "
+            "validating dependenciesScripts contents\n";
+    text += "  -m --mainroot <root MOC>       specify the main root MOC\n";
+    text += "  -q --quiet                     Do not output anything\n";
+    text += "\n";
+    text += "Arguments without key are treated as input files.\n";
+    std::fputs(text.c_str(), stdout);
+}
+
+void displayVersion() { printLine(version); }
+
+bool isValid(const char* path, bool wantFile) {
+    if (path == nullptr || *path == '\0') {
+        return false;
+    }
+    struct stat st;
+    if (::stat(path, &st) != 0) {
+        return false;
+    }
+    bool kindOk = wantFile ? S_ISREG(st.st_mode) : S_ISDIR(st.st_mode);
+    return kindOk && ::access(path, R_OK) == 0;
+}
+
+bool isXml(const char* path) {
+    std::string p = path != nullptr ? path : "";
+    std::string::size_type slash = p.rfind('/');
+    std::string last = slash == std::string::npos ? p : p.substr(slash + 1);
+    std::string::size_type dot = last.rfind('.');
+    return dot != std::string::npos && last.compare(dot + 1, std::string::npos, "xml") == 0;
+}
+
+bool getFileList(const char* dir, std::list<std::string>& files) {
+    if (!isValid(dir, false)) {
+        printLine(std::string("getFileList invalid path: ") + dir);
+        return false;
+    }
+    DIR* d = ::opendir(dir);
+    if (d == nullptr) {
+        printLine(std::string("getFileList invalid path: ") + dir);
+        return false;
+    }
+    std::vector<std::string> names;
+    while (struct dirent* entry = ::readdir(d)) {
+        names.emplace_back(entry->d_name);
+    }
+    ::closedir(d);
+    // Sorted byte-wise, so the same folder gives the same run on every file
+    // system.
+    std::sort(names.begin(), names.end());
+
+    printLine(std::string("getFileList opening path:") + dir);
+    for (const std::string& name : names) {
+        std::string path = std::string(dir) + "/" + name;
+        if (isValid(path.c_str(), true) && isXml(path.c_str())) {
+            files.push_back(path);
+        }
+    }
+    return true;
+}
+
+int getFileContents(const std::string& listFile, std::list<std::string>& files) {
+    std::string content = readRegularFile(listFile);
+    std::string::size_type begin = 0;
+    while (begin <= content.size()) {
+        std::string::size_type end = content.find('\n', begin);
+        if (end == std::string::npos) {
+            end = content.size();
+        }
+        std::string path = Poco::trim(content.substr(begin, end - begin));
+        begin = end + 1;
+        if (path.empty()) {
+            continue;
+        }
+        if (!isValid(path.c_str(), true)) {
+            ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "Parse Error on (%s)", path.c_str());
+            return -1;
+        }
+        files.push_back(path);
+    }
+    return 0;
+}
+
+namespace {
+
+// Outcome of reading the options: go on with the run, or end it at once
+// with the given exit code.
+struct OptionsResult {
+    bool endRun = false;
+    int exitCode = 0;
+};
+
+struct RunOptions {
+    std::list<std::string> modelFiles;
+    std::string mainRootName;
+    bool quiet = false;
+};
+
+OptionsResult readOptions(int argc, char** argv, RunOptions& run) {
+    int opt;
+    while ((opt = getopt_long(argc, argv, shortOptions, kLongOptions, nullptr)) != -1) {
+        switch (opt) {
+        case 'h':
+            displayHelp();
+            return {true, 0};
+        case 'v':
+            displayVersion();
+            return {true, 0};
+        case 'c':
+            // Kept on purpose: a lone "-cfile" or "--config=file" with
+            // nothing else on the line ends the run without a word.
+            if (argc <= 2) {
+                return {true, -1};
+            }
+            getFileContents(optarg, run.modelFiles);
+            break;
+        case 'd':
+            if (!isValid(optarg, false)) {
+                printLine(std::string("Directory \"") + optarg + "\" is not valid.");
+                return {true, -1};
+            }
+            getFileList(optarg, run.modelFiles);
+            break;
+        case 'p':
+            if (!loadLibraries(optarg)) {
+                return {true, -1};
+            }
+            break;
+        case 'm':
+            run.mainRootName = optarg;
+            break;
+        case 'q':
+            run.quiet = true;
+            break;
+        case '?':
+            return {true, -1};
+        default:
+            break;
+        }
+    }
+    return {};
+}
+
+int checkPositionalFiles(int argc, char** argv, RunOptions& run) {
+    for (int i = optind; i < argc; ++i) {
+        const char* arg = argv[i];
+        if (!isValid(arg, true)) {
+            printLine(std::string("File \"") + arg + "\" does not exist.");
+            return -1;
+        }
+        if (!isXml(arg)) {
+            printLine(std::string("File \"") + arg + "\" is not an XML file.");
+            return -1;
+        }
+        run.modelFiles.push_back(arg);
+    }
+    if (run.modelFiles.empty()) {
+        printLine("No model files specified.");
+        return -1;
+    }
+    return 0;
+}
+
+int printSummary(ModelRepositoryService& service, bool quiet) {
+    int exitCode = 0;
+    if (!quiet) {
+        printLine("Summary: ");
+    }
+    const std::list<std::string>& messages = service.getModelRepository()->getMessages();
+    if (messages.empty()) {
+        printLine("    Model seems valid, for more info see the log: '" + logFileName() + "'.");
+        return exitCode;
+    }
+    for (const std::string& message : messages) {
+        if (message.compare(0, 5, "ERROR") == 0) {
+            printLine("    " + message);
+            exitCode = -1;
+        } else if (!quiet) {
+            printLine("    " + message);
+        }
+    }
+    return exitCode;
+}
+
+int run(int argc, char** argv) {
+    initLoggingWrapper();
+
+    RunOptions options;
+    OptionsResult parsed = readOptions(argc, argv, options);
+    if (parsed.endRun) {
+        return parsed.exitCode;
+    }
+    if (checkPositionalFiles(argc, argv, options) != 0) {
+        closeLibraries();
+        return -1;
+    }
+
+    if (!options.quiet) {
+        printLine("File list: ");
+        for (const std::string& file : options.modelFiles) {
+            printLine("\t" + file);
+        }
+    }
+
+    int exitCode = 0;
+    {
+        ModelRepositoryService service(true);
+        service.setModelFiles(options.modelFiles);
+        service.setMainRootName(options.mainRootName);
+        ZefReturnT rc = service.start();
+        if (rc != ZefOk) {
+            printLine("Failed to load model files. Got return code " + std::to_string(rc));
+        }
+        exitCode = printSummary(service, options.quiet);
+
+        if (!options.quiet) {
+            printLine("!See '" + logFileName() + "' for more info.");
+        }
+        closeLibraries();
+    }
+    return exitCode;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    int exitCode;
+    try {
+        exitCode = run(argc, argv);
+    } catch (const std::exception& e) {
+        // Whatever escapes the run ends it with one readable line, never
+        // with an abnormal end of the process.
+        std::fflush(stdout);
+        std::fprintf(stderr, "zef_model_validator: %s\n", e.what());
+        closeLibraries();
+        exitCode = -1;
+    } catch (...) {
+        std::fflush(stdout);
+        std::fprintf(stderr, "zef_model_validator: unexpected error\n");
+        closeLibraries();
+        exitCode = -1;
+    }
+    std::fflush(stdout);
+    Zef::LoggingWrapper::instance()->close();
+    return exitCode;
+}

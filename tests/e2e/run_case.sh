@@ -15,6 +15,7 @@
 #   log_contains      lines each of which must occur in the log file (optional)
 #   log_lacks         lines none of which may occur in the log file (optional)
 #   log_file          the log path when the case moves it (optional; default @LOG@)
+#   check.sh          run with bash in the run folder afterwards; non-zero fails (optional)
 # Placeholders in every file: @WORK@ the run folder, @LOG@ the default log
 # path (@WORK@/validator.log), @BUILD@ the build folder.
 set -u
@@ -113,6 +114,12 @@ if [[ -f "$case_dir/log_contains" ]]; then
 fi
 if [[ -f "$case_dir/log_lacks" ]]; then
     check_lines "$case_dir/log_lacks" "$log_file" no "log $log_file"
+fi
+
+if [[ -f "$case_dir/check.sh" ]]; then
+    if ! bash "$case_dir/check.sh"; then
+        report "check.sh failed"
+    fi
 fi
 
 if [[ $fail -ne 0 ]]; then

@@ -1,0 +1,101 @@
+#include "ZefConfiguration.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <vector>
+
+#include <Poco/DOM/DOMParser.h>
+#include <Poco/Exception.h>
+#include <Poco/SAX/InputSource.h>
+
+#include "ZefException.h"
+
+namespace Zef {
+
+namespace {
+
+const size_t kReadBlockSize = 8192;
+
+enum class PathKind { Missing, RegularFile, Other, Unreadable };
+
+// A name that cannot name a file (no such entry, or too long to be a path)
+// is taken as XML text; anything that exists is judged as a file.
+PathKind classify(const std::string& name) {
+    struct stat st;
+    if (::stat(name.c_str(), &st) != 0) {
+        if (errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG || name.empty()) {
+            return PathKind::Missing;
+        }
+        return PathKind::Unreadable;
+    }
+    if (!S_ISREG(st.st_mode)) {
+        return PathKind::Other;
+    }
+    return ::access(name.c_str(), R_OK) == 0 ? PathKind::RegularFile : PathKind::Unreadable;
+}
+
+// The document is read into memory and parsed from there, so that a file
+// name is never interpreted as a URI by the XML reader.
+std::string readFile(const std::string& name) {
+    int fd = ::open(name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) {
+        throw ZefException(name + " is not readable");
+    }
+    std::string content;
+    std::vector<char> block(kReadBlockSize);
+    for (;;) {
+        ssize_t n = ::read(fd, block.data(), block.size());
+        if (n < 0 && errno == EINTR) {
+            continue;
+        }
+        if (n < 0) {
+            ::close(fd);
+            throw ZefException(name + " is not readable");
+        }
+        if (n == 0) {
+            break;
+        }
+        content.append(block.data(), static_cast<size_t>(n));
+    }
+    ::close(fd);
+    return content;
+}
+
+} // namespace
+
+void ZefConfiguration::load(const std::string& fileName) {
+    std::string text;
+    switch (classify(fileName)) {
+    case PathKind::Other:
+        throw ZefException(fileName + " is not a file");
+    case PathKind::Unreadable:
+        throw ZefException(fileName + " is not readable");
+    case PathKind::RegularFile:
+        text = readFile(fileName);
+        break;
+    case PathKind::Missing:
+        text = fileName;
+        break;
+    }
+
+    Poco::XML::DOMParser parser;
+    parser.setFeature(Poco::XML::DOMParser::FEATURE_FILTER_WHITESPACE, true);
+    try {
+        _document = parser.parseMemory(text.data(), text.size());
+    } catch (const Poco::Exception& e) {
+        _document = nullptr;
+        throw ZefException(e.displayText());
+    }
+}
+
+Poco::AutoPtr<Poco::XML::NodeList> ZefConfiguration::getElementsByTagName(const std::string& name) const {
+    if (_document.isNull()) {
+        return nullptr;
+    }
+    return _document->getElementsByTagName(name);
+}
+
+} // namespace Zef
