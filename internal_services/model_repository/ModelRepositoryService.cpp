@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "ModelParser.h"
 #include "ZefLog.h"
 
 namespace ZefModelRepositoryService {
@@ -45,8 +46,20 @@ ZefReturnT ModelRepositoryService::start() {
     }
     ZEF_TRACE("Starting Model Repository ...");
 
+    ModelParser parser(_repository);
+    parser.setStandalone(_standalone);
     _repository.setStandalone(_standalone);
     _repository.setMainRootName(_mainRootName);
+
+    for (const std::string& file : _modelFiles) {
+        int rc = parser.parse(file);
+        if (rc != 0) {
+            // The files after a broken one are not read: their references
+            // could not be resolved against a half-loaded model anyway.
+            ZEF_LOG_ERROR("Error Parse in '%s'", file.c_str());
+            return rc;
+        }
+    }
 
     _started = true;
     ZEF_TRACE("Model Repository is started.");

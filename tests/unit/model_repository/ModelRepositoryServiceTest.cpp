@@ -14,6 +14,12 @@ using ZefModelRepositoryService::ModelRepositoryService;
 
 namespace {
 
+const char* const kValidModel =
+    "<models><mim name=\"T\" version=\"1\" namespace=\"urn:t\" namespacePrefix=\"t\">"
+    "<class name=\"Root\"><root/>"
+    "<attribute name=\"rootId\"><mandatory/><key/><dataType><string/></dataType></attribute>"
+    "</class></mim></models>";
+
 // Files of one test in a folder of its own below TMPDIR.
 class ScratchFiles {
 public:
@@ -79,6 +85,18 @@ TEST_F(ModelRepositoryServiceTest, SecondStartIsRefused) {
     EXPECT_TRUE(service.isStarted());
 }
 
+TEST_F(ModelRepositoryServiceTest, StopForgetsTheFilesAndAllowsANewStart) {
+    ModelRepositoryService service(true);
+    service.setModelFiles({files.write("a.xml", kValidModel)});
+    EXPECT_EQ(0, service.start());
+    EXPECT_EQ(1u, service.getModelRepository()->getMomList().size());
+    service.stop();
+    EXPECT_FALSE(service.isStarted());
+    EXPECT_TRUE(service.getModelFileList().empty());
+    EXPECT_TRUE(service.getModelRepository()->getMomList().empty());
+    EXPECT_EQ(0, service.start());
+}
+
 TEST_F(ModelRepositoryServiceTest, ModelFilesAreReplacedByACopy) {
     ModelRepositoryService service(true);
     std::list<std::string> list{"a.xml", "b.xml"};
@@ -94,6 +112,24 @@ TEST_F(ModelRepositoryServiceTest, MainRootNameReachesTheRepository) {
     EXPECT_EQ(0, service.start());
     EXPECT_EQ("Root", service.getModelRepository()->getMainRootName());
     EXPECT_TRUE(service.getModelRepository()->isStandalone());
+}
+
+TEST_F(ModelRepositoryServiceTest, AFileThatFailsToParseStopsTheLoad) {
+    ModelRepositoryService service(true);
+    std::string first = files.write("first.xml", kValidModel);
+    std::string broken = files.write("broken.xml", "<models><mim name=\"B\"");
+    // The third file does not exist: were it opened, the parse of a missing
+    // file would be taken as XML text and fail differently.
+    std::string third = files.path("third.xml");
+    service.setModelFiles({first, broken, third});
+    EXPECT_EQ(-1, service.start());
+    EXPECT_FALSE(service.isStarted());
+    std::vector<std::string> errors = log.errors();
+    EXPECT_NE(errors.end(), std::find(errors.begin(), errors.end(), "Error Parse in '" + broken + "'"));
+    EXPECT_EQ(errors.end(), std::find(errors.begin(), errors.end(), "Error Parse in '" + third + "'"));
+    std::string text = log.text();
+    EXPECT_NE(std::string::npos, text.find("Parsing file '" + broken + "'"));
+    EXPECT_EQ(std::string::npos, text.find("Parsing file '" + third + "'"));
 }
 
 TEST_F(ModelRepositoryServiceTest, TerminateWithoutPortalSucceeds) {
