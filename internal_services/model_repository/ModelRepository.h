@@ -18,6 +18,7 @@ namespace ZefModelRepositoryService {
 
 class AssociationEndWrapper;
 class BiDirAssociationWrapper;
+class CompileReporter;
 class ContWrapper;
 class DdtWrapper;
 class EnumWrapper;
@@ -147,6 +148,23 @@ public:
     void setUniDirectionalAssociations();
     /// Picks the model's tree root; null when any finding is an error.
     void findTreeRoot();
+    /// Resolves the data types of `first` and of the members chained after
+    /// it: the members of a struct (Container StructWrapper, Member
+    /// StructMemberWrapper) or the parameters of an action (MoActionWrapper,
+    /// ParameterWrapper). Defined for these two pairs only.
+    template <typename Container, typename Member>
+    void setMoAttributeDatatypeTpl(Container& container, Member* first);
+    /// Files every MOM that states a modelling-standard name and version
+    /// ("QCIM"/"qcimMomName", "QCIM"/"qcimMomVersion") under that pair in the
+    /// modelling-standard name map (a later MOM overwrites an earlier one).
+    void buildQcimNameMap();
+
+private:
+    // The reporting channel (report) as handed to the compilation helpers
+    // that live outside this class.
+    CompileReporter compileReporter();
+
+public:
 
     // ---- validation (ModelRepositoryValidate.cpp) ---------------------------
 

@@ -1,0 +1,321 @@
+// Compilation of the repository: turns the name-based references of the
+// records into pointers between the published records, chains containments
+// per class, fills multiplicity defaults, fixes each MOM's root class, and
+// finally picks the model's tree root (for validation). Data types and
+// associations are compiled in ModelRepositoryCompileTypes.cpp and
+// ModelRepositoryCompileAssociations.cpp.
+
+#include "ModelRepository.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "AttrWrapper.h"
+#include "CompileReporter.h"
+#include "ContWrapper.h"
+#include "MocWrapper.h"
+#include "MomWrapper.h"
+#include "MrUtil.h"
+#include "StructWrapper.h"
+#include "ZefLog.h"
+
+namespace ZefModelRepositoryService {
+
+namespace {
+
+/// An attribute without bounds: a writable one is required unless it may be
+/// nil, a read-only one never is; at most one value.
+void setMultiplicityDefaults(AttrWrapper& attr)
+{
+    if (!attr.getIsMinSet()) {
+        const bool optional = attr.getStruct().isReadOnly || attr.isNillable();
+        attr.setMin(optional ? "0" : "1");
+    }
+    if (!attr.getIsMaxSet()) {
+        attr.setMax("1");
+    }
+}
+
+// ---- containments
+
+/// One side (parent or child) of a containment.
+struct ContainmentSide {
+    const std::string& (ContWrapper::*mimName)() const;
+    const std::string& (ContWrapper::*mimVersion)() const;
+    const std::string& (ContWrapper::*mocName)() const;
+    ZefReturnT (ContWrapper::*setMimName)(const std::string&);
+    ZefReturnT (ContWrapper::*setMimVersion)(const std::string&);
+};
+
+const ContainmentSide parentSide = {&ContWrapper::getParentMimName, &ContWrapper::getParentMimVersion,
+                                    &ContWrapper::getParentMocName, &ContWrapper::setParentMimName,
+                                    &ContWrapper::setParentMimVersion};
+const ContainmentSide childSide = {&ContWrapper::getChildMimName, &ContWrapper::getChildMimVersion,
+                                   &ContWrapper::getChildMocName, &ContWrapper::setChildMimName,
+                                   &ContWrapper::setChildMimVersion};
+
+/// Completes the mim name and version of one side: inside one MIM both
+/// come from the containment's MOM; between MIMs from the only class of
+/// that name, or the version from the only MOM of the given name.
+void completeMimId(ModelRepository& repository, ContWrapper& cont, const ContainmentSide& side)
+{
+    const std::string& mimName = (cont.*side.mimName)();
+    const std::string& mimVersion = (cont.*side.mimVersion)();
+    if (!cont.isInterMim()) {
+        const ZefOamSpiMom* mom = cont.getStruct().mom;
+        if ((mimName.empty() || mimVersion.empty()) && mom != nullptr) {
+            (cont.*side.setMimName)(MrUtil::str(mom->generalProperties.name));
+            (cont.*side.setMimVersion)(MrUtil::str(mom->version));
+        }
+        return;
+    }
+    if (mimName.empty()) {
+        std::string name;
+        std::string version;
+        repository.getMimNameAndVersion((cont.*side.mocName)(), name, version);
+        (cont.*side.setMimName)(name);
+        (cont.*side.setMimVersion)(version);
+    } else if (mimVersion.empty()) {
+        std::string version;
+        repository.getMimVersion(mimName, version);
+        (cont.*side.setMimVersion)(version);
+    }
+}
+
+/// How the containments of one class are listed: by parent class (the
+/// class's child containments) or by child class (its parent containments).
+struct ContainmentList {
+    std::string (ContWrapper::*classKey)() const;
+    ZefReturnT (MocWrapper::*setFirst)(const ZefOamSpiContainment*);
+    ZefReturnT (ContWrapper::*setNext)(const ContWrapper*);
+    const char* classMissing; // class key
+    const char* linkFailed;   // containment key, next containment key
+};
+
+/// Groups the containments by class key (groups and members in key order),
+/// gives each class the first containment of its group and chains the
+/// group's containments behind each other.
+void listContainments(ModelRepository& repository, const ContainmentList& list, const CompileReporter& reporter)
+{
+    std::map<std::string, std::vector<ContWrapper*>> groups;
+    for (const auto& entry : repository.getContMap()) {
+        groups[(entry.second->*list.classKey)()].push_back(entry.second);
+    }
+    const ModelRepository::MocMap& mocs = repository.getMocMap();
+    for (const auto& group : groups) {
+        const std::vector<ContWrapper*>& conts = group.second;
+        const auto moc = mocs.find(group.first);
+        if (moc == mocs.end()) {
+            reporter.report(ZEF_LOG_LEVEL_ERROR, list.classMissing, group.first.c_str());
+        } else {
+            (moc->second->*list.setFirst)(&conts.front()->getStruct());
+        }
+        for (size_t index = 0; index + 1 < conts.size(); ++index) {
+            if ((conts[index]->*list.setNext)(conts[index + 1]) != ZefOk) {
+                reporter.report(ZEF_LOG_LEVEL_ERROR, list.linkFailed, conts[index]->getId().c_str(),
+                                conts[index + 1]->getId().c_str());
+            }
+        }
+    }
+}
+
+} // namespace
+
+CompileReporter ModelRepository::compileReporter()
+{
+    return CompileReporter(
+        [this](unsigned short level, const std::string& text) { report(level, "%s", text.c_str()); });
+}
+
+void ModelRepository::compileModel()
+{
+    ZEF_TRACE_ENTER(" >> ");
+
+    ZEF_TRACE("Compiling the MOMs");
+    setMomsRootMoc();
+
+    ZEF_TRACE("Compiling the Containments");
+    for (const auto& entry : _conts) {
+        translateMimNames(*entry.second);
+        checkSetParentMimId(*entry.second);
+        checkSetChildMimId(*entry.second);
+    }
+    // Every name is complete before the first class is looked up.
+    for (const auto& entry : _conts) {
+        setContParentAndChildMoc(*entry.second);
+    }
+    compileParentListConts();
+    compileChildListConts();
+    setSystemCreatedforConts();
+
+    ZEF_TRACE("Compiling the Mocs");
+    for (const auto& entry : _mocs) {
+        MocWrapper& moc = *entry.second;
+        ZEF_TRACE("Compiling the attributes in the Moc (%s)", entry.first.c_str());
+        setAttrsDataType(moc);
+        setMoActionDataType(moc);
+        const MocWrapper::AttrList& attrs = moc.getAttrsList();
+        for (AttrWrapper* attr = attrs.empty() ? nullptr : attrs.front(); attr != nullptr; attr = attr->getNext()) {
+            setMultiplicityDefaults(*attr);
+        }
+    }
+
+    ZEF_TRACE("Compiling the Bidirectional associations");
+    setBiDirectionalAssociations();
+
+    ZEF_TRACE("Compiling the Unidirectional associations");
+    setUniDirectionalAssociations();
+
+    ZEF_TRACE("Compiling the Structs");
+    for (const auto& entry : _structs) {
+        ZEF_TRACE("Compiling the members in the Struct (%s)", entry.first.c_str());
+        setMoAttributeDatatypeTpl(*entry.second, entry.second->getStructMemberListFront());
+    }
+
+    buildQcimNameMap();
+    buildMocNameCache();
+
+    ZEF_TRACE_LEAVE(" << ");
+}
+
+void ModelRepository::setMomsRootMoc()
+{
+    std::map<std::string, MomWrapper*> momsByKey;
+    for (MomWrapper* mom : _moms) {
+        momsByKey.emplace(mom->getId(), mom);
+    }
+    for (const auto& entry : _mocs) {
+        MocWrapper& moc = *entry.second;
+        if (!moc.getStruct().isRoot) {
+            continue;
+        }
+        const std::string momKey = moc.getMomId();
+        const auto found = momsByKey.find(momKey);
+        if (found == momsByKey.end()) {
+            report(ZEF_LOG_LEVEL_ERROR, "Could not find Mom (%s) refered by the root Moc (%s).", momKey.c_str(),
+                   entry.first.c_str());
+        } else if (found->second->getStruct().rootMoc == nullptr) {
+            found->second->setRootMoc(&moc.getStruct());
+            ZEF_TRACE("Mom (%s) has now root Moc (%s) set.", momKey.c_str(), entry.first.c_str());
+        } else {
+            report(ZEF_LOG_LEVEL_ERROR, "Mom (%s) can have only one root Moc (%s).", momKey.c_str(),
+                   entry.first.c_str());
+        }
+    }
+}
+
+void ModelRepository::checkSetParentMimId(ContWrapper& cont)
+{
+    completeMimId(*this, cont, parentSide);
+}
+
+void ModelRepository::checkSetChildMimId(ContWrapper& cont)
+{
+    completeMimId(*this, cont, childSide);
+}
+
+void ModelRepository::setContParentAndChildMoc(ContWrapper& cont)
+{
+    const std::string parentKey = cont.getParentMocId();
+    const auto parent = _mocs.find(parentKey);
+    if (parent == _mocs.end()) {
+        report(ZEF_LOG_LEVEL_ERROR, "Did not find parent Moc(%s) for containment(%s).", parentKey.c_str(),
+               cont.getId().c_str());
+    } else {
+        cont.setParentMoc(&parent->second->getStruct());
+    }
+    const std::string childKey = cont.getChildMocId();
+    const auto child = _mocs.find(childKey);
+    if (child == _mocs.end()) {
+        report(ZEF_LOG_LEVEL_ERROR, "Did not not find child Moc(%s) for containment(%s).", childKey.c_str(),
+               cont.getId().c_str());
+    } else {
+        cont.setChildMoc(&child->second->getStruct());
+    }
+}
+
+void ModelRepository::compileParentListConts()
+{
+    // A group is always a fresh entry of the grouping map, so the reserved
+    // "more than one child containments" finding cannot arise here.
+    static const ContainmentList byParent = {
+        &ContWrapper::getParentMocId, &MocWrapper::setChildContainment,
+        static_cast<ZefReturnT (ContWrapper::*)(const ContWrapper*)>(&ContWrapper::setNextContainmentSameParentMoc),
+        "Failed to find Moc(%s).", "Failed to setNextContainmentSameParentMoc on (%s) for (%s)"};
+    listContainments(*this, byParent, compileReporter());
+}
+
+void ModelRepository::compileChildListConts()
+{
+    static const ContainmentList byChild = {
+        &ContWrapper::getChildMocId, &MocWrapper::setParentContainment,
+        static_cast<ZefReturnT (ContWrapper::*)(const ContWrapper*)>(&ContWrapper::setNextContainmentSameChildMoc),
+        "compileChildListConts(), failed to find Moc(%s)", "Failed to setNextContainmentSameChildMoc on (%s) for (%s)"};
+    listContainments(*this, byChild, compileReporter());
+}
+
+void ModelRepository::setSystemCreatedforConts()
+{
+    for (const auto& entry : _conts) {
+        const auto child = _mocs.find(entry.second->getChildMocId());
+        if (child != _mocs.end()) {
+            entry.second->setIsSystemCreated(child->second->getIsSystemCreated());
+        }
+    }
+}
+
+void ModelRepository::buildQcimNameMap()
+{
+    for (const MomWrapper* mom : _moms) {
+        const DomainExtensionWrapper* qcimName = mom->getDomainExtension("QCIM", "qcimMomName");
+        const DomainExtensionWrapper* qcimVersion = mom->getDomainExtension("QCIM", "qcimMomVersion");
+        if (qcimName == nullptr || qcimVersion == nullptr) {
+            continue;
+        }
+        const std::string key = MomWrapper::getMomId(qcimName->getValue().c_str(), qcimVersion->getValue().c_str());
+        if (key.empty()) {
+            continue; // the key builder has logged the missing part
+        }
+        _qcimNames[key] = {MrUtil::str(mom->getStruct().generalProperties.name), mom->getVersion()};
+    }
+}
+
+void ModelRepository::findTreeRoot()
+{
+    for (const std::string& message : _messages) {
+        if (message.find("ERROR") != std::string::npos) {
+            ZEF_LOG_ERROR("%s", message.c_str());
+            ZEF_LOG_ERROR("The model contains errors. Setting tree root to NULL");
+            _treeRoot = nullptr;
+            return;
+        }
+    }
+    for (const MomWrapper* mom : _moms) {
+        const ZefOamSpiMoc* root = mom->getStruct().rootMoc;
+        if (root == nullptr || root->parentContainment != nullptr) {
+            continue;
+        }
+        const std::string rootName = MrUtil::str(root->generalProperties.name);
+        if (_mainRootName.empty()) {
+            _treeRoot = root;
+            if (CompileReporter::traceEnabled()) {
+                std::string path = MrUtil::str(mom->getStruct().generalProperties.name);
+                const std::string version = mom->getVersion();
+                if (!version.empty()) {
+                    path += "+" + version;
+                }
+                path += "+" + rootName;
+                ZEF_TRACE("Setting tree root to %s", path.c_str());
+            }
+            return;
+        }
+        if (rootName == _mainRootName) {
+            _treeRoot = root;
+            ZEF_TRACE("Found tree root");
+            return;
+        }
+    }
+}
+
+} // namespace ZefModelRepositoryService

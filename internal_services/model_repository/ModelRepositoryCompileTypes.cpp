@@ -1,0 +1,505 @@
+// Compilation of data types: resolves the type reference of every
+// attribute, action result, parameter and struct member into the element's
+// type pointers, with the substitute type of the passphrase rule.
+
+#include "ModelRepository.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "AttrWrapper.h"
+#include "CompileReporter.h"
+#include "DdtWrapper.h"
+#include "EnumWrapper.h"
+#include "MoActionWrapper.h"
+#include "MocWrapper.h"
+#include "MrUtil.h"
+#include "ParameterWrapper.h"
+#include "RefId.h"
+#include "StructMemberWrapper.h"
+#include "StructWrapper.h"
+#include "TypedElementWrapper.h"
+#include "ZefLog.h"
+
+namespace ZefModelRepositoryService {
+
+namespace {
+
+/// The class name that stands for "any class" in a reference.
+const char* const anyClassName = "ManagedObject";
+/// Appended to a passphrase type's key to name its substitute for key attributes.
+const char* const passphraseSubstituteSuffix = "_forPassphraseMOCKey_StructKey";
+
+/// One text of the type resolution. A worded text begins with the element's
+/// kind word and takes it as its first argument; every text then takes the
+/// element's key, then its own arguments.
+struct ResolutionText {
+    const char* format;
+    bool worded;
+};
+
+/// The texts of one kind of typed element. A null format switches the rule
+/// off for that kind (the same-class rule, the passphrase rule).
+struct ResolutionTexts {
+    ResolutionText mimVersionMissing;     // error
+    ResolutionText basicType;             // trace (type code)
+    ResolutionText mocAlreadySet;         // error
+    ResolutionText anyClass;              // trace (reference name)
+    ResolutionText mocNotSet;             // error
+    ResolutionText mocNotFound;           // error (class key)
+    ResolutionText mocResolved;           // trace (class key)
+    ResolutionText sameMoc;               // error (class key)
+    ResolutionText enumAlreadySet;        // error
+    ResolutionText enumNotSet;            // error
+    ResolutionText enumNotFound;          // error (enum key)
+    ResolutionText enumResolved;          // trace (enum key)
+    ResolutionText ddtAlreadySet;         // error
+    ResolutionText ddtNotSet;             // error
+    ResolutionText ddtNotFound;           // error (ddt key)
+    ResolutionText ddtResolved;           // trace (ddt key)
+    ResolutionText structAlreadySet;      // error
+    ResolutionText structNotSet;          // error
+    ResolutionText structNotFound;        // error (struct key)
+    ResolutionText structResolved;        // trace (struct key)
+    ResolutionText unknownType;           // warning (type code)
+    ResolutionText passphraseIgnored;     // warning
+    ResolutionText passphraseCopyFailed;  // error
+};
+
+// The "any class" traces name the reference after the element, hence the
+// numbered arguments.
+const ResolutionTexts attributeTexts = {
+    {"Failed to resolve mimVersion for attribute (%s)", false},
+    {"Attribute (%s) has a basic type (%d), nothing to resolve here.", false},
+    {"Attribute (%s) has type moRef and the referencedMoc is already set.", false},
+    {"Setting any class reference (%2$s) for attribute (%1$s)", false},
+    {"Attribute (%s) has type moRef and the referencedMoc is not set.", false},
+    {"Attribute (%s) refers to a Moc (%s) which could not be found.", false},
+    {"Attribute (%s) refers to the Moc (%s) -- reference resolved.", false},
+    {nullptr, false}, // an attribute may refer to its own class
+    {"Attribute (%s) has type enumRef and the enumDataType is already set.", false},
+    {"Attribute (%s) has type enumRef and the enumDataType is not set.", false},
+    {"Attribute (%s) refers to a Enum (%s) which could not be found.", false},
+    {"Attribute (%s) refers to the Enum (%s) -- reference resolved.", false},
+    {"Attribute (%s) has type derivedDataTypeRef and the is already set.", false},
+    {"Attribute (%s) has type derivedDataTypeRef and the derivedDataType is not set.", false},
+    {"Attribute (%s) refers to a Ddt (%s) which could not be found.", false},
+    {"Attribute (%s) refers to the Ddt (%s) -- reference resolved.", false},
+    {"Attribute(%s) has type structDatatypeRef and the structDatatype is already set.", false},
+    {"Attribute(%s) has type structDatatypeRef and the structDatatype is not set.", false},
+    {"Attribute(%s) refers to a Struct(%s) which can not be found.", false},
+    {"Attribute(%s) refers to Struct(%s) -- reference resolved.", false},
+    {"Attribute (%s) has an unknown/usupported type %d.", false},
+    {"Attribute (%s) is Key and has Passphrase property set. Ignoring the Passphrase property.", false},
+    {"Could not add a duplicate Ddt with Passphrase=false  for Attribute (%s).", false},
+};
+
+const ResolutionTexts actionTexts = {
+    {"Failed to resolve mimVersion for action (%s)", false},
+    {"Action (%s) has a basic type (%d), nothing to resolve here.", false},
+    {"Action (%s) has type moRef and the referencedMoc is already set.", false},
+    {"Setting any class reference (%2$s) for action (%1$s)", false},
+    {"Action (%s) has type moRef and the referencedMoc is not set.", false},
+    {"Action (%s) refers to a Moc (%s) which could not be found.", false},
+    {"Action (%s) refers to the Moc (%s) -- reference resolved.", false},
+    {"Action (%s) refers to the same Moc (%s) which contains it.", false},
+    {"Action (%s) has type enumRef and the enumDataType is already set.", false},
+    {"Action (%s) has type enumRef and the enumDataType is not set.", false},
+    {"Action (%s) refers to a Enum (%s) which could not be found.", false},
+    {"Action (%s) refers to the Enum (%s) -- reference resolved.", false},
+    {"Action (%s) has type derivedDataTypeRef and the is already set.", false},
+    {"Action (%s) has type derivedDataTypeRef and the derivedDataType is not set.", false},
+    {"Action (%s) refers to a Ddt (%s) which could not be found.", false},
+    {"Action (%s) refers to the Ddt (%s) -- reference resolved.", false},
+    {"Action(%s) has type structDatatypeRef and the structDatatype is already set.", false},
+    {"Action(%s) has type structDatatypeRef and the structDatatype is not set.", false},
+    {"Action(%s) refers to a Struct(%s) which can not be found.", false},
+    {"Action(%s) refers to Struct(%s) -- reference resolved.", false},
+    {"Action (%s) has an unknown/usupported type %d.", false},
+    {nullptr, false}, // a result type is never a key
+    {nullptr, false},
+};
+
+/// Parameters and struct members: the kind word ("Parameter",
+/// "StructMember") leads every text but the two of the passphrase rule.
+const ResolutionTexts memberTexts = {
+    {"Failed to resolve mimVersion for %s (%s)", true},
+    {"%s (%s) has a basic type (%d), nothing to resolve here.", true},
+    {"%s (%s) has type moRef and the referencedMoc is already set.", true},
+    {"Setting any class reference (%3$s) for %1$s (%2$s)", true},
+    {"%s (%s) has type moRef and the referencedMoc is not set.", true},
+    {"%s (%s) refers to a Moc (%s) which could not be found.", true},
+    {"%s (%s) refers to the Moc (%s) -- reference resolved.", true},
+    {"%s (%s) refers to the same Moc (%s) which contains it.", true},
+    {"%s (%s) has type enumRef and the enumDataType is already set.", true},
+    {"%s (%s) has type enumRef and the enumDataType is not set.", true},
+    {"%s (%s) refers to a Enum (%s) which could not be found.", true},
+    {"%s (%s) refers to the Enum (%s) -- reference resolved.", true},
+    {"%s (%s) has type derivedDataTypeRef and the is already set.", true},
+    {"%s (%s) has type derivedDataTypeRef and the derivedDataType is not set.", true},
+    {"%s (%s) refers to a Ddt (%s) which could not be found.", true},
+    {"%s (%s) refers to the Ddt (%s) -- reference resolved.", true},
+    {"%s (%s) has type structDatatypeRef and the structDatatype is already set.", true},
+    {"%s (%s) has type structDatatypeRef and the structDatatype is not set.", true},
+    {"%s (%s) refers to a Struct(%s) which can not be found.", true},
+    {"%s (%s) refers to Struct(%s) -- reference resolved.", true},
+    {"%s (%s) has an unknown/usupported type %d.", true},
+    {"(%s) is Key and has Passphrase property set.Ignoring the Passphrase property.", false},
+    {"Could not add a duplicate Ddt with Passphrase=false  for (%s).", false},
+};
+
+/// The four type pointers an element holds at the moment.
+struct TypeTargets {
+    const ZefOamSpiMoc* referencedMoc;
+    const ZefOamSpiEnum* enumeration;
+    const ZefOamSpiDerivedDatatype* derived;
+    const ZefOamSpiStruct* structure;
+};
+
+TypeTargets currentTargets(const AttrWrapper& attr)
+{
+    const ZefOamSpiMoAttribute& record = attr.getStruct();
+    return {record.referencedMoc, record.enumDatatype, record.derivedDatatype, record.structDatatype};
+}
+
+TypeTargets currentTargets(const TypedElementWrapper& element)
+{
+    return {element.getReferencedMoc(), element.getEnumDatatype(), element.getDerivedDatatype(),
+            element.getStructDatatype()};
+}
+
+/// Name and version of the MOM an element belongs to; a reference that
+/// names no MOM means this one.
+template <typename Element>
+std::pair<std::string, std::string> ownMom(const Element& element)
+{
+    return {element.getMomName(), element.getMomVersion()};
+}
+
+std::pair<std::string, std::string> ownMom(const MoActionWrapper& action)
+{
+    const ZefOamSpiMoc* moc = action.getStruct().moc;
+    if (moc == nullptr || moc->mom == nullptr) {
+        return {};
+    }
+    return {MrUtil::str(moc->mom->generalProperties.name), MrUtil::str(moc->mom->version)};
+}
+
+/// Parameters and struct members carry no key flag of their own; the model
+/// marks a key member with the domain extension "QCIM"/"isKey" = "true".
+bool hasKeyExtension(const GeneralPropertiesWrapper& member)
+{
+    const DomainExtensionWrapper* isKey = member.getDomainExtension("QCIM", "isKey");
+    return isKey != nullptr && isKey->getValue() == "true";
+}
+
+/// Resolves the type reference of typed elements of one kind (attributes,
+/// action results, parameters or struct members) into the element's type
+/// pointers. The kinds differ only in their word, their texts, the key of
+/// the record that holds the element (a reference to it is refused when the
+/// kind has the same-class rule) and whether an element counts as a key for
+/// the passphrase rule; all four are parameters here.
+class TypeResolver {
+public:
+    TypeResolver(ModelRepository& repository, const CompileReporter& reporter, const char* word,
+                 const ResolutionTexts& texts)
+        : _repository(repository), _reporter(reporter), _word(word), _texts(texts)
+    {
+    }
+
+    /// Resolves `element`, known under `key`. `holderKey` is the key the
+    /// same-class rule compares a class reference with; `isKey` applies the
+    /// passphrase rule to a passphrase type.
+    template <typename Element>
+    void resolve(Element& element, const std::string& key, const std::string& holderKey, bool isKey)
+    {
+        _key = key;
+        RefId& ref = element;
+        const ZefOamSpiMrType_3 type = element.getType();
+        switch (type) {
+        case ZefMrType3Reference:
+            completeReference(element, ref);
+            resolveMoc(element, ref, holderKey);
+            break;
+        case ZefMrType3Enum:
+            completeReference(element, ref);
+            resolveEnum(element, ref);
+            break;
+        case ZefMrType3Derived:
+            completeReference(element, ref);
+            resolveDdt(element, ref, isKey);
+            break;
+        case ZefMrType3Struct:
+            completeReference(element, ref);
+            resolveStruct(element, ref);
+            break;
+        case ZefMrType3Int8:
+        case ZefMrType3Int16:
+        case ZefMrType3Int32:
+        case ZefMrType3Int64:
+        case ZefMrType3UInt8:
+        case ZefMrType3UInt16:
+        case ZefMrType3UInt32:
+        case ZefMrType3UInt64:
+        case ZefMrType3String:
+        case ZefMrType3Bool:
+        case ZefMrType3Void:
+        case ZefMrType3Double:
+            trace(_texts.basicType, static_cast<int>(type));
+            break;
+        default:
+            say(ZEF_LOG_LEVEL_WARNING, _texts.unknownType, static_cast<int>(type));
+            setTargets(element, TypeTargets{});
+            break;
+        }
+    }
+
+private:
+    template <typename... Args>
+    std::string render(const ResolutionText& text, Args... args) const
+    {
+        return text.worded ? CompileReporter::format(text.format, _word, _key.c_str(), args...)
+                           : CompileReporter::format(text.format, _key.c_str(), args...);
+    }
+
+    template <typename... Args>
+    void say(unsigned short level, const ResolutionText& text, Args... args)
+    {
+        _reporter.report(level, render(text, args...));
+    }
+
+    template <typename... Args>
+    void trace(const ResolutionText& text, Args... args)
+    {
+        if (CompileReporter::traceEnabled()) {
+            const std::string line = render(text, args...);
+            ZEF_TRACE("%s", line.c_str());
+        }
+    }
+
+    template <typename Element>
+    static void setTargets(Element& element, const TypeTargets& targets)
+    {
+        element.setReferencedMoc(targets.referencedMoc);
+        element.setEnumDatatype(targets.enumeration);
+        element.setDerivedDatatype(targets.derived);
+        element.setStructDatatype(targets.structure);
+    }
+
+    /// Gives the reference its MOM: a modelling-standard MOM name becomes
+    /// the MOM's own name and version, no MOM name means the element's own
+    /// MOM, and a missing version is the one of the only MOM of that name.
+    template <typename Element>
+    void completeReference(const Element& element, RefId& ref)
+    {
+        if (!ref.getRefMomName().empty()) {
+            _repository.translateMimName(ref);
+        }
+        if (ref.getRefMomName().empty()) {
+            const std::pair<std::string, std::string> mom = ownMom(element);
+            ref.setRefMomName(mom.first);
+            ref.setRefMomVersion(mom.second);
+        }
+        if (!ref.getRefMomName().empty() && ref.getRefMomVersion().empty()) {
+            std::string version;
+            _repository.getMimVersion(ref.getRefMomName(), version);
+            ref.setRefMomVersion(version);
+            if (version.empty()) {
+                say(ZEF_LOG_LEVEL_ERROR, _texts.mimVersionMissing);
+            }
+        }
+    }
+
+    template <typename Element>
+    void resolveMoc(Element& element, const RefId& ref, const std::string& holderKey)
+    {
+        if (currentTargets(element).referencedMoc != nullptr) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.mocAlreadySet);
+            return;
+        }
+        // Any class is a class of no MOM: it is never looked up.
+        if (ref.getRefName() == anyClassName) {
+            element.setReferencedMoc(&_repository.getAnyClassMoc().getStruct());
+            trace(_texts.anyClass, ref.getRefName().c_str());
+            return;
+        }
+        const std::string mocKey = MocWrapper::getMocId(ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(),
+                                                        ref.getRefName().c_str());
+        if (mocKey.empty()) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.mocNotSet);
+            return;
+        }
+        if (_texts.sameMoc.format != nullptr && mocKey == holderKey) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.sameMoc, mocKey.c_str());
+            return;
+        }
+        const ModelRepository::MocMap& mocs = _repository.getMocMap();
+        const auto found = mocs.find(mocKey);
+        if (found == mocs.end()) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.mocNotFound, mocKey.c_str());
+            return;
+        }
+        element.setReferencedMoc(&found->second->getStruct());
+        trace(_texts.mocResolved, mocKey.c_str());
+    }
+
+    template <typename Element>
+    void resolveEnum(Element& element, const RefId& ref)
+    {
+        if (currentTargets(element).enumeration != nullptr) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.enumAlreadySet);
+            return;
+        }
+        const std::string enumKey = EnumWrapper::getEnumId(
+            ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(), ref.getRefName().c_str());
+        if (enumKey.empty()) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.enumNotSet);
+            return;
+        }
+        const ModelRepository::EnumMap& enums = _repository.getEnumMap();
+        const auto found = enums.find(enumKey);
+        if (found == enums.end()) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.enumNotFound, enumKey.c_str());
+            return;
+        }
+        setTargets(element, TypeTargets{nullptr, &found->second->getStruct(), nullptr, nullptr});
+        trace(_texts.enumResolved, enumKey.c_str());
+    }
+
+    template <typename Element>
+    void resolveDdt(Element& element, const RefId& ref, bool isKey)
+    {
+        if (currentTargets(element).derived != nullptr) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.ddtAlreadySet);
+            return;
+        }
+        const std::string ddtKey = DdtWrapper::getDdtId(ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(),
+                                                        ref.getRefName().c_str());
+        if (ddtKey.empty()) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.ddtNotSet);
+            return;
+        }
+        const ModelRepository::DdtMap& ddts = _repository.getDdtMap();
+        const auto found = ddts.find(ddtKey);
+        if (found == ddts.end()) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.ddtNotFound, ddtKey.c_str());
+            return;
+        }
+        const ZefOamSpiDerivedDatatype* ddt = &found->second->getStruct();
+        if (isKey && _texts.passphraseIgnored.format != nullptr && found->second->getIsPassphrase()) {
+            ddt = passphraseSubstitute(*found->second);
+        }
+        setTargets(element, TypeTargets{nullptr, nullptr, ddt, nullptr});
+        if (ddt != nullptr) {
+            trace(_texts.ddtResolved, ddtKey.c_str());
+        }
+    }
+
+    /// A key must stay readable, so a key typed by a passphrase type is
+    /// typed by a copy of it that is no passphrase. The copy is filed under
+    /// the type's MOM with the type's key and a fixed suffix as name, so all
+    /// keys of one passphrase type share it. Null when it cannot be filed.
+    const ZefOamSpiDerivedDatatype* passphraseSubstitute(const DdtWrapper& passphrase)
+    {
+        say(ZEF_LOG_LEVEL_WARNING, _texts.passphraseIgnored);
+        const std::string name = passphrase.getId() + passphraseSubstituteSuffix;
+        const ZefOamSpiMom* mom = passphrase.getStruct().mom;
+        const std::string key = DdtWrapper::getDdtId(mom != nullptr ? mom->generalProperties.name : nullptr,
+                                                     mom != nullptr ? mom->version : nullptr, name.c_str());
+        const ModelRepository::DdtMap& ddts = _repository.getDdtMap();
+        const auto present = ddts.find(key);
+        if (present != ddts.end()) {
+            return &present->second->getStruct();
+        }
+        // Owned here until the repository accepts it (addDdt may also throw).
+        std::unique_ptr<DdtWrapper> substitute(new DdtWrapper(passphrase, name));
+        substitute->setIsPassphrase(false);
+        if (_repository.addDdt(substitute.get()) != ZefOk) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.passphraseCopyFailed);
+            return nullptr;
+        }
+        return &substitute.release()->getStruct();
+    }
+
+    template <typename Element>
+    void resolveStruct(Element& element, const RefId& ref)
+    {
+        if (currentTargets(element).structure != nullptr) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.structAlreadySet);
+            return;
+        }
+        const std::string structKey = StructWrapper::getStructId(
+            ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(), ref.getRefName().c_str());
+        if (structKey.empty()) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.structNotSet);
+            return;
+        }
+        const ModelRepository::StructMap& structs = _repository.getStructMap();
+        const auto found = structs.find(structKey);
+        if (found == structs.end()) {
+            say(ZEF_LOG_LEVEL_ERROR, _texts.structNotFound, structKey.c_str());
+            return;
+        }
+        setTargets(element, TypeTargets{nullptr, nullptr, nullptr, &found->second->getStruct()});
+        trace(_texts.structResolved, structKey.c_str());
+    }
+
+    ModelRepository& _repository;
+    const CompileReporter& _reporter;
+    const char* _word;
+    const ResolutionTexts& _texts;
+    std::string _key;
+};
+
+/// The kind word of the members of a container, as the member texts print it.
+const char* memberWord(const StructWrapper&)
+{
+    return "StructMember";
+}
+
+const char* memberWord(const MoActionWrapper&)
+{
+    return "Parameter";
+}
+
+} // namespace
+
+void ModelRepository::setAttrsDataType(MocWrapper& moc)
+{
+    const CompileReporter reporter = compileReporter();
+    TypeResolver resolver(*this, reporter, "Attribute", attributeTexts);
+    for (AttrWrapper* attr : moc.getAttrsList()) {
+        // An attribute may refer to its own class: no holder key.
+        resolver.resolve(*attr, attr->getId(), std::string(), attr->getStruct().isKey);
+    }
+}
+
+void ModelRepository::setMoActionDataType(MocWrapper& moc)
+{
+    const CompileReporter reporter = compileReporter();
+    TypeResolver resolver(*this, reporter, "Action", actionTexts);
+    const std::string mocKey = moc.getId();
+    for (MoActionWrapper* action : moc.getMoActionList()) {
+        resolver.resolve(*action, action->getId(), mocKey, false);
+        setMoAttributeDatatypeTpl(*action, action->getParameterListFront());
+    }
+}
+
+template <typename Container, typename Member>
+void ModelRepository::setMoAttributeDatatypeTpl(Container& container, Member* first)
+{
+    const CompileReporter reporter = compileReporter();
+    TypeResolver resolver(*this, reporter, memberWord(container), memberTexts);
+    const std::string containerKey = container.getId();
+    for (Member* member = first; member != nullptr; member = member->getNext()) {
+        resolver.resolve(*member, member->getId(), containerKey, hasKeyExtension(*member));
+    }
+}
+
+template void ModelRepository::setMoAttributeDatatypeTpl<StructWrapper, StructMemberWrapper>(StructWrapper&,
+                                                                                            StructMemberWrapper*);
+template void ModelRepository::setMoAttributeDatatypeTpl<MoActionWrapper, ParameterWrapper>(MoActionWrapper&,
+                                                                                           ParameterWrapper*);
+
+} // namespace ZefModelRepositoryService
