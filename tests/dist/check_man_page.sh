@@ -54,7 +54,7 @@ grep -qF "when loading failed (Failed to load model files.) without any ERROR fi
 # Defaults of the environment variables.
 environment=$(section ENVIRONMENT)
 for default in "Default: 8" "Default: /tmp" "Default: 5242880" "Default: 5." "Default: 6." \
-               "Default: \$TMPDIR/zef.log or /tmp/zef.log" "Default: the word user"; do
+               "Default: \$TMPDIR/zef.log or /tmp/zef.log" "Default: the word user when the log goes to /tmp; nothing when TMPDIR is set"; do
     grep -qF -- "$default" <<< "$environment" || fail "ENVIRONMENT lacks \"$default\""
 done
 
