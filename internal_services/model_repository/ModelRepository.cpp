@@ -4,11 +4,13 @@
 #include <cstring>
 
 #include "AssociationEndWrapper.h"
+#include "AttrWrapper.h"
 #include "BiDirAssociationWrapper.h"
 #include "ContWrapper.h"
 #include "DdtWrapper.h"
 #include "DnUtil.h"
 #include "EnumWrapper.h"
+#include "MoActionWrapper.h"
 #include "MomWrapper.h"
 #include "RefId.h"
 #include "StructWrapper.h"
@@ -510,6 +512,16 @@ void ModelRepository::cleanup() {
     }
     _moms.clear();
     _momKeys.clear();
+    // A class lists its attributes and actions without owning them; the
+    // repository that owns the class owns them too.
+    for (auto& entry : _mocs) {
+        for (AttrWrapper* attr : entry.second->getAttrsList()) {
+            delete attr;
+        }
+        for (MoActionWrapper* action : entry.second->getMoActionList()) {
+            delete action;
+        }
+    }
     deleteRecords(_mocs);
     deleteRecords(_ddts);
     deleteRecords(_enums);

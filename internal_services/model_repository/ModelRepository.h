@@ -32,7 +32,8 @@ class UniDirAssociationWrapper;
 /// record, the compiled model, and the message list of every finding.
 ///
 /// Records handed to a successful add... belong to the repository and are
-/// destroyed by cleanup(); a refused record stays with the caller. Every
+/// destroyed by cleanup(), together with the attributes and actions of every
+/// registered class; a refused record stays with the caller. Every
 /// map is ordered by identity key, byte-wise, so every pass over a registry
 /// runs in ascending key order; MOMs keep the order in which they were added.
 class ModelRepository {

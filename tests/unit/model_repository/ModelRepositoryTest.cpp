@@ -5,11 +5,13 @@
 #include <vector>
 
 #include "AssociationEndWrapper.h"
+#include "AttrWrapper.h"
 #include "BiDirAssociationWrapper.h"
 #include "ContWrapper.h"
 #include "DdtWrapper.h"
 #include "EnumWrapper.h"
 #include "LogCapture.h"
+#include "MoActionWrapper.h"
 #include "ModelRepository.h"
 #include "MomWrapper.h"
 #include "StructWrapper.h"
@@ -368,6 +370,25 @@ TEST_F(ModelRepositoryTest, CleanupKeepsMessagesAndTheAnyClassMoc) {
     EXPECT_STREQ("ManagedObject", repository.getAnyClassMoc().getStruct().generalProperties.name);
     // The same key can be added again afterwards.
     ASSERT_EQ(ZefOk, repository.addMom(newMom("m", "1")));
+}
+
+// The sanitizer build reports a leak here if cleanup forgets the members of
+// a class.
+TEST_F(ModelRepositoryTest, CleanupDestroysTheAttributesAndActionsOfEachClass) {
+    MomWrapper* mom = newMom("m", "1");
+    ASSERT_EQ(ZefOk, repository.addMom(mom));
+    MocWrapper* moc = newMoc(mom, "C");
+    AttrWrapper* attr = new AttrWrapper();
+    attr->setName("a");
+    attr->setMoc(&moc->getStruct());
+    ASSERT_EQ(ZefOk, moc->addAttr(attr));
+    MoActionWrapper* action = new MoActionWrapper();
+    action->setName("act");
+    action->setMoc(&moc->getStruct());
+    ASSERT_EQ(ZefOk, moc->addMoAction(action));
+    ASSERT_EQ(ZefOk, repository.addMoc(moc));
+    repository.cleanup();
+    EXPECT_TRUE(repository.getMocMap().empty());
 }
 
 TEST_F(ModelRepositoryTest, DumpWritesEveryRecord) {
