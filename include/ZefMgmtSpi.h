@@ -1,7 +1,8 @@
 /*
  * The small part of the management framework's service provider interface
  * that the model repository uses: the common head of every interface record,
- * the log and trace interfaces the logging singleton forwards to, and the
+ * the log and trace interfaces the logging singleton forwards to, the
+ * component record, the interface portal and its accessor, and the
  * per-thread error text of the C interfaces.
  */
 #ifndef ZEF_MGMT_SPI_H
@@ -53,6 +54,59 @@ typedef struct ZefMwSpiTrace_2 {
                   const char* file, const char* function, unsigned int line,
                   const char* format, va_list args);
 } ZefMwSpiTrace_2;
+
+/*
+ * Components. A component describes itself in a ZefMgmtSpiComponent_2
+ * record and registers it with the framework's interface portal, which it
+ * obtains through the portal accessor handed to it at initialisation. The
+ * framework then calls the record's start and stop functions.
+ */
+
+/**
+ * Component record "ZefMgmtSpiComponent" version "2". The head names the
+ * component (componentName) and the record's own interface and version.
+ * Append-only: the field order is fixed; new fields only in a new version.
+ */
+typedef struct ZefMgmtSpiComponent_2 {
+    ZefMgmtSpiInterface_1 base;
+    /** The interfaces the component provides, ending with a null pointer. */
+    ZefMgmtSpiInterface_1* const* providedInterfaces;
+    /**
+     * The interfaces the component needs from others, ending with a null
+     * pointer. Their componentName is null (any provider will do); a null
+     * interfaceVersion accepts any version.
+     */
+    ZefMgmtSpiInterface_1* const* requiredInterfaces;
+    /** Starts the component; 0 on success, any other value is a failure. */
+    ZefReturnT (*start)(void);
+    /** Stops the component; 0 on success. */
+    ZefReturnT (*stop)(void);
+    /** Component flags; 1 is what every component of this program sets. */
+    int flags;
+} ZefMgmtSpiComponent_2;
+
+/**
+ * Interface portal "ZefMgmtSpiInterfacePortal" version "3": where components
+ * register. Append-only: slot order fixed; new slots only in a new version.
+ */
+typedef struct ZefMgmtSpiInterfacePortal_3 {
+    ZefMgmtSpiInterface_1 base;
+    /** Makes the component known to the framework; 0 on success. */
+    ZefReturnT (*registerComponent)(const ZefMgmtSpiComponent_2* component);
+    /** Forgets a registered component; 0 on success. */
+    ZefReturnT (*unregisterComponent)(const ZefMgmtSpiComponent_2* component);
+} ZefMgmtSpiInterfacePortal_3;
+
+/** Hands a component the interface portal of the framework. */
+typedef struct ZefMgmtSpiInterfacePortalAccessor {
+    /**
+     * The portal of the given interface version ("3"); null when the
+     * framework has none of that version. The portal's head carries the
+     * version text; its operations follow as in the portal record of that
+     * version.
+     */
+    ZefMgmtSpiInterface_1* (*getPortal)(const char* version);
+} ZefMgmtSpiInterfacePortalAccessor;
 
 /** Per-thread scratch and error text of the C interfaces. */
 typedef struct ZefMgmtSpiThreadContext_1 {

@@ -5,6 +5,7 @@
  */
 #include "ZefMgmtSpi.h"
 #include "ZefOamApiStaticValidator.h"
+#include "ZefOamSpiModelRepository_1.h"
 #include "ZefOamSpiModelRepository_2.h"
 #include "ZefOamSpiModelRepository_3.h"
 #include "ZefOamSpiModelRepository_4.h"
@@ -22,3 +23,5 @@ size_t zefTestCSizeOfStaticValidatorInterface_1(void) { return sizeof(ZefOamApiS
 size_t zefTestCSizeOfMoAttribute(void) { return sizeof(ZefOamSpiMoAttribute); }
 size_t zefTestCSizeOfDerived_2(void) { return sizeof(ZefOamSpiDerived_2); }
 size_t zefTestCSizeOfFloat_4(void) { return sizeof(ZefOamSpiMrFloat_4); }
+size_t zefTestCSizeOfModelRepository_1(void) { return sizeof(ZefOamSpiModelRepository_1); }
+size_t zefTestCSizeOfComponent_2(void) { return sizeof(ZefMgmtSpiComponent_2); }

@@ -19,6 +19,8 @@ size_t zefTestCSizeOfStaticValidatorInterface_1(void);
 size_t zefTestCSizeOfMoAttribute(void);
 size_t zefTestCSizeOfDerived_2(void);
 size_t zefTestCSizeOfFloat_4(void);
+size_t zefTestCSizeOfModelRepository_1(void);
+size_t zefTestCSizeOfComponent_2(void);
 
 #ifdef __cplusplus
 }
