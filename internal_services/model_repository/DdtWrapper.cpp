@@ -2,6 +2,7 @@
 
 #include <sstream>
 
+#include "DerivedTypeIf2Impl.h"
 #include "MomWrapper.h"
 #include "MrUtil.h"
 #include "ZefLog.h"
@@ -256,6 +257,11 @@ void DdtWrapper::clearLists()
     _ddt.valueRange = nullptr;
     _ddt.stringLength.min = 0;
     _ddt.stringLength.max = 0;
+}
+
+void DdtWrapper::registerIf2()
+{
+    new DerivedTypeIf2Impl(*this);
 }
 
 namespace {

@@ -96,6 +96,11 @@ public:
     ValueRangeWrapper* createValueRangeWrapper(RangeList& list);
     /// Destroys every range record and forgets both lists.
     void clearLists();
+    /// Creates the type's query interface object, which registers the type,
+    /// its general properties and its ranges and stores their handles in
+    /// the records (the interface's manager owns the object). Called once
+    /// the type and its ranges are complete.
+    void registerIf2();
     const RangeList& getValueRanges() const { return _valueRanges; }
     const RangeList& getLengthRanges() const { return _lengthRanges; }
 
