@@ -114,6 +114,11 @@ ZefReturnT ModelRepositoryService::start() {
             return rc;
         }
     }
+    if (!_modelFiles.empty()) {
+        _repository.compileModel();
+        _repository.validateModel();
+        _repository.dumpModel();
+    }
 
     _started = true;
     ZEF_TRACE("Model Repository is started.");
