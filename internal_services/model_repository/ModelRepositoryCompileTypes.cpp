@@ -419,7 +419,12 @@ private:
             say(ZEF_LOG_LEVEL_ERROR, _texts.passphraseCopyFailed);
             return nullptr;
         }
-        return &substitute.release()->getStruct();
+        // Published only once filed: the query interface keeps its object
+        // (which refers to the type) for the life of the process, so a
+        // refused copy must never have been registered.
+        DdtWrapper* filed = substitute.release();
+        filed->registerIf2();
+        return &filed->getStruct();
     }
 
     template <typename Element>

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "CompileTestSupport.h"
+#include "DerivedTypeIf2Impl.h"
 
 namespace ZefTest {
 namespace {
@@ -741,6 +742,13 @@ TEST_P(TypeResolutionTest, KeyTypedByAPassphraseTypeGetsASubstitute) {
     EXPECT_TRUE(pw->getIsPassphrase());
     EXPECT_STREQ("M~1.0~Pw_forPassphraseMOCKey_StructKey", substitute->second->getStruct().generalProperties.name);
     EXPECT_EQ(&m->getStruct(), substitute->second->getStruct().mom);
+    // The substitute is published to the query interface like any type.
+    const uint64_t handle = substitute->second->getHandle();
+    EXPECT_NE(0u, handle);
+    uint64_t generalProperties = 0;
+    EXPECT_EQ(ZefOk,
+              ZefModelRepositoryService::DerivedTypeIf2Impl::lookup(handle).getGeneralProperties(generalProperties));
+    EXPECT_NE(0u, generalProperties);
     EXPECT_EQ((Strings{warning(texts().passphrase)}), takeMessages());
 }
 

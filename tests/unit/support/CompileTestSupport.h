@@ -5,7 +5,9 @@
 // every test, built record by record (no parser), the log written at trace
 // level into a file of the test's own, and a message ledger: every finding
 // the repository recorded must be taken by the test, with its exact text,
-// or the test fails in TearDown.
+// or the test fails in TearDown. Interface objects that compilation
+// publishes (the substitutes of passphrase types) are dropped at the end
+// of each test, so that handles restart at 3017.
 
 #include <gtest/gtest.h>
 
@@ -21,6 +23,7 @@
 #include "ContWrapper.h"
 #include "DdtWrapper.h"
 #include "EnumWrapper.h"
+#include "If2Manager.h"
 #include "LogCapture.h"
 #include "LoggingWrapperTestAccess.h"
 #include "MoActionWrapper.h"
@@ -69,6 +72,7 @@ protected:
         for (const std::string& message : takeMessages()) {
             ADD_FAILURE() << "message not taken by the test: \"" << message << "\"";
         }
+        ZefModelRepositoryService::If2Manager::instance().cleanup();
     }
 
     // ---- records -----------------------------------------------------------
