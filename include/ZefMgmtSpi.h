@@ -70,13 +70,13 @@ typedef struct ZefMwSpiTrace_2 {
 typedef struct ZefMgmtSpiComponent_2 {
     ZefMgmtSpiInterface_1 base;
     /** The interfaces the component provides, ending with a null pointer. */
-    ZefMgmtSpiInterface_1* const* providedInterfaces;
+    const ZefMgmtSpiInterface_1* const* providedInterfaces;
     /**
      * The interfaces the component needs from others, ending with a null
      * pointer. Their componentName is null (any provider will do); a null
      * interfaceVersion accepts any version.
      */
-    ZefMgmtSpiInterface_1* const* requiredInterfaces;
+    const ZefMgmtSpiInterface_1* const* requiredInterfaces;
     /** Starts the component; 0 on success, any other value is a failure. */
     ZefReturnT (*start)(void);
     /** Stops the component; 0 on success. */

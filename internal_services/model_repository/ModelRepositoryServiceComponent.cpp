@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <exception>
 
+#include "If2Manager.h"
 #include "ZefLog.h"
 #include "ZefOamSpiModelRepository_1.h"
 
@@ -45,8 +46,8 @@ ZefOamSpiModelRepository_1 repositoryInterface;
 ZefOamSpiModelRepositoryExtension_1 repositoryExtensionInterface;
 ZefMgmtSpiInterface_1 logRequirement;
 ZefMgmtSpiInterface_1 traceRequirement;
-ZefMgmtSpiInterface_1* providedInterfaces[kProvidedSlots];
-ZefMgmtSpiInterface_1* requiredInterfaces[kRequiredSlots];
+const ZefMgmtSpiInterface_1* providedInterfaces[kProvidedSlots];
+const ZefMgmtSpiInterface_1* requiredInterfaces[kRequiredSlots];
 ZefMgmtSpiComponent_2 componentDescriptor;
 
 void setHead(ZefMgmtSpiInterface_1& head, const char* component, const char* interface, const char* version) {
@@ -55,9 +56,10 @@ void setHead(ZefMgmtSpiInterface_1& head, const char* component, const char* int
     head.interfaceVersion = version;
 }
 
+// Every interface record begins with the three texts.
 template <typename Record>
-ZefMgmtSpiInterface_1* asInterface(Record& record) {
-    return reinterpret_cast<ZefMgmtSpiInterface_1*>(&record);
+const ZefMgmtSpiInterface_1* asInterface(const Record* record) {
+    return &record->base;
 }
 
 // Logs an exception that reached the C boundary; the caller turns it into a result code.
@@ -178,10 +180,15 @@ void ModelRepositoryService::fillComponentDescriptor() {
     setHead(repositoryExtensionInterface.base, kComponentName, kRepositoryExtensionInterface, kInterfaceVersion1);
     repositoryExtensionInterface.getFileName = getFileName;
 
-    size_t provided = 0;
-    providedInterfaces[provided++] = asInterface(repositoryInterface);
-    providedInterfaces[provided++] = asInterface(repositoryExtensionInterface);
-    providedInterfaces[provided] = nullptr;
+    // The query interface tables are the handle manager's, created on first use.
+    const If2Manager& queryInterfaces = If2Manager::instance();
+    providedInterfaces[0] = asInterface(&repositoryInterface);
+    providedInterfaces[1] = asInterface(queryInterfaces.getIf2());
+    providedInterfaces[2] = asInterface(queryInterfaces.getIf3());
+    providedInterfaces[3] = asInterface(queryInterfaces.getIf4());
+    providedInterfaces[4] = asInterface(queryInterfaces.getIf4_1());
+    providedInterfaces[5] = asInterface(&repositoryExtensionInterface);
+    providedInterfaces[6] = nullptr;
 
     // Any provider will do. The logger takes trace interfaces of version
     // "1" and "2", so the trace requirement names no version.

@@ -14,6 +14,7 @@
 
 #include "ConfigurationFile.h"
 #include "FrameworkDouble.h"
+#include "If2Manager.h"
 #include "LogAndTraceDouble.h"
 #include "LogCapture.h"
 #include "ModelRepositoryService.h"
@@ -21,6 +22,10 @@
 #include "ScratchDir.h"
 #include "ZefException.h"
 #include "ZefOamSpiModelRepository_1.h"
+#include "ZefOamSpiModelRepository_2.h"
+#include "ZefOamSpiModelRepository_3.h"
+#include "ZefOamSpiModelRepository_4.h"
+#include "ZefOamSpiModelRepository_4_1.h"
 
 using ZefModelRepositoryService::ModelRepositoryService;
 
@@ -120,7 +125,7 @@ TEST_F(ModelRepositoryServiceComponentTest, ComponentRecordNamesTheComponent) {
 TEST_F(ModelRepositoryServiceComponentTest, ProvidedInterfacesInArrayOrder) {
     ModelRepositoryService service;
     std::vector<std::string> provided;
-    for (ZefMgmtSpiInterface_1* const* slot = ModelRepositoryService::getComponentDescriptor()->providedInterfaces;
+    for (const ZefMgmtSpiInterface_1* const* slot = ModelRepositoryService::getComponentDescriptor()->providedInterfaces;
          *slot != nullptr; ++slot) {
         provided.push_back(ZefTest::FrameworkDouble::textOf((*slot)->componentName) + " "
                            + ZefTest::FrameworkDouble::textOf((*slot)->interfaceName) + " "
@@ -128,15 +133,45 @@ TEST_F(ModelRepositoryServiceComponentTest, ProvidedInterfacesInArrayOrder) {
     }
     EXPECT_EQ((std::vector<std::string>{
                   "ZefOamSpiModelRepositoryService ZefOamSpiModelRepository 1",
+                  "ZefOamSpiModelRepositoryService ZefOamSpiModelRepository 2",
+                  "ZefOamSpiModelRepositoryService ZefOamSpiModelRepository 3",
+                  "ZefOamSpiModelRepositoryService ZefOamSpiModelRepository 4",
+                  "ZefOamSpiModelRepositoryService ZefOamSpiModelRepository 4_1",
                   "ZefOamSpiModelRepositoryService ZefOamSpiModelRepositoryExtension 1",
               }),
               provided);
 }
 
+TEST_F(ModelRepositoryServiceComponentTest, QueryInterfaceTablesAreTheHandleManagers) {
+    ModelRepositoryService service;
+    ASSERT_EQ(0, initWith(service, "modelSpecFile = " + specFile({}) + "\n"));
+    const ZefModelRepositoryService::If2Manager& manager = ZefModelRepositoryService::If2Manager::instance();
+    EXPECT_EQ(manager.getIf2(), (framework.provided<ZefOamSpiModelRepository_2>("ZefOamSpiModelRepository", "2")));
+    EXPECT_EQ(manager.getIf3(), (framework.provided<ZefOamSpiModelRepository_3>("ZefOamSpiModelRepository", "3")));
+    EXPECT_EQ(manager.getIf4(), (framework.provided<ZefOamSpiModelRepository_4>("ZefOamSpiModelRepository", "4")));
+    EXPECT_EQ(manager.getIf4_1(),
+              (framework.provided<ZefOamSpiModelRepository_4_1>("ZefOamSpiModelRepository", "4_1")));
+}
+
+TEST_F(ModelRepositoryServiceComponentTest, QueryInterfaceOfTheComponentAnswersTwoUntilStarted) {
+    ModelRepositoryService service;
+    const std::string t = writeFile("t.xml", kModelT);
+    ASSERT_EQ(0, initWith(service, "modelSpecFile = " + specFile({t}) + "\n"));
+    const ZefOamSpiModelRepository_4* if4 =
+        framework.provided<ZefOamSpiModelRepository_4>("ZefOamSpiModelRepository", "4");
+    ASSERT_NE(nullptr, if4);
+    uint64_t mom = 0;
+    EXPECT_EQ(2, if4->entry->getMom(&mom));
+    ASSERT_EQ(0, framework.startComponent());
+    EXPECT_EQ(0, if4->entry->getMom(&mom));
+    ASSERT_EQ(0, framework.stopComponent());
+    EXPECT_EQ(2, if4->entry->getMom(&mom));
+}
+
 TEST_F(ModelRepositoryServiceComponentTest, RequiredInterfacesAreLogAndTrace) {
     ModelRepositoryService service;
     std::vector<std::string> required;
-    for (ZefMgmtSpiInterface_1* const* slot = ModelRepositoryService::getComponentDescriptor()->requiredInterfaces;
+    for (const ZefMgmtSpiInterface_1* const* slot = ModelRepositoryService::getComponentDescriptor()->requiredInterfaces;
          *slot != nullptr; ++slot) {
         required.push_back(ZefTest::FrameworkDouble::textOf((*slot)->componentName) + " "
                            + ZefTest::FrameworkDouble::textOf((*slot)->interfaceName) + " "

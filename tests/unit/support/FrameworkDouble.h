@@ -59,7 +59,7 @@ public:
         const ZefMgmtSpiComponent_2* registered = component();
         if (registered == nullptr)
             return nullptr;
-        for (ZefMgmtSpiInterface_1* const* slot = registered->providedInterfaces; *slot != nullptr; ++slot) {
+        for (const ZefMgmtSpiInterface_1* const* slot = registered->providedInterfaces; *slot != nullptr; ++slot) {
             if (name == textOf((*slot)->interfaceName) && version == textOf((*slot)->interfaceVersion))
                 return reinterpret_cast<const Record*>(*slot);
         }
