@@ -1,0 +1,12 @@
+# Both keys are typed by the one substitute, which is no passphrase; the
+# passphrase type itself stays.
+actual=$(grep -a -E 'DerivedDatatype:|isPassphrase:|traceRecords +-- (Ddt|Moc)' validator.log | sed 's/^.*traceRecords *//')
+expected='-- Moc (A)--
+    DerivedDatatype:   M~1~M~1~Secret_forPassphraseMOCKey_StructKey
+-- Moc (R)--
+    DerivedDatatype:   M~1~M~1~Secret_forPassphraseMOCKey_StructKey
+-- Ddt (M~1~Secret_forPassphraseMOCKey_StructKey)--
+isPassphrase:      false
+-- Ddt (Secret)--
+isPassphrase:      true'
+[[ "$actual" == "$expected" ]] || { echo "types differ:"; echo "$actual"; exit 1; }
