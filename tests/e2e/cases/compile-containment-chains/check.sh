@@ -1,6 +1,6 @@
 # The class and containment dumps show the chains: R's containments RA then
 # RB, A's parent containments BA then RA.
-actual=$(grep -a -E 'traceRecords +-- (Containment|Moc)|NextCont|ChildContainment|arentContainment' validator.log | sed 's/^.*traceRecords *//')
+actual=$(grep -a -E ' - [^ ]+ +-- (Containment|Moc)|NextCont|ChildContainment|arentContainment' validator.log | sed -E 's/^.* - [^ ]+ +//')
 expected='-- Moc (A)--
 ChildContainment:  null
 ParentContainment: M~1~BA

@@ -1,5 +1,5 @@
 # Both containments found their classes in the two MOMs.
-actual=$(grep -a -E 'traceRecords +-- InterMim|^ParentMoc|^ChildMoc' validator.log | sed 's/^.*traceRecords *//')
+actual=$(grep -a -E ' - [^ ]+ +-- InterMim|^ParentMoc|^ChildMoc' validator.log | sed -E 's/^.* - [^ ]+ +//')
 expected='-- InterMimContainment (RY) --
 ParentMoc:          M~1~R
 ChildMoc:           N~2~Y

@@ -1,6 +1,6 @@
 # Both keys are typed by the one substitute, which is no passphrase; the
 # passphrase type itself stays.
-actual=$(grep -a -E 'DerivedDatatype:|isPassphrase:|traceRecords +-- (Ddt|Moc)' validator.log | sed 's/^.*traceRecords *//')
+actual=$(grep -a -E 'DerivedDatatype:|isPassphrase:| - [^ ]+ +-- (Ddt|Moc)' validator.log | sed -E 's/^.* - [^ ]+ +//')
 expected='-- Moc (A)--
     DerivedDatatype:   M~1~M~1~Secret_forPassphraseMOCKey_StructKey
 -- Moc (R)--

@@ -1,6 +1,6 @@
 # The dumps show the base type of each derived type: the first primitive, or
 # none.
-actual=$(grep -a -E 'traceRecords +-- Ddt|^Type:' validator.log | sed 's/^.*traceRecords *//')
+actual=$(grep -a -E ' - [^ ]+ +-- Ddt|^Type:' validator.log | sed -E 's/^.* - [^ ]+ +//')
 expected='-- Ddt (Nothing)--
 Type:              0
 -- Ddt (Reference)--

@@ -1,5 +1,5 @@
 # The containment dumps show the rights: RA cannot be created, RB not deleted.
-actual=$(grep -a -E '^(-- Containment|.*traceRecords +-- Containment|CanCreate|CanDelete)' validator.log | sed 's/^.*traceRecords *//')
+actual=$(grep -a -E ' - [^ ]+ +-- Containment|^(CanCreate|CanDelete)' validator.log | sed -E 's/^.* - [^ ]+ +//')
 expected='-- Containment (RA) --
 CanCreate:         0
 CanDelete:         1
