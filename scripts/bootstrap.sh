@@ -7,7 +7,7 @@ set -euo pipefail
 packages=(
   g++ cmake make pkg-config dpkg-dev groff-base man-db gzip
   libpoco-dev libexpat1
-  libgtest-dev libbenchmark-dev
+  libgtest-dev libbenchmark-dev python3
 )
 
 if [[ $(id -u) -ne 0 ]]; then
