@@ -21,6 +21,10 @@ namespace {
 // kMessageSize characters, the finished line is cut at kLineSize - 1.
 const size_t kMessageSize = 800;
 const size_t kLineSize = 1000;
+// A trace line has no fixed limit of its own; it is cut only far beyond any
+// record dump, so the model dump at trace level shows every record whole.
+const size_t kTraceMessageSize = 65536;
+const size_t kTraceLineSize = kTraceMessageSize + 256;
 const int kTimeSize = 24;
 const int kPathTailSize = 65;
 
@@ -309,13 +313,13 @@ void LoggingWrapper::trace_printf(const char* file, const char* function, int li
 
     char fileTail[kPathTailSize];
     path_tail(file, fileTail, sizeof(fileTail));
-    char message[kMessageSize];
+    char message[kTraceMessageSize];
     va_list args;
     va_start(args, format);
     std::vsnprintf(message, sizeof(message), format, args);
     va_end(args);
 
-    char text[kLineSize];
+    char text[kTraceLineSize];
     ZefMwSpiTrace_1* const spi = _traceSpi1;
     if (spi != nullptr) {
         std::snprintf(text, sizeof(text), "%-24s:%-5d - %-25s %s", fileTail, line, orNullText(function), message);

@@ -573,6 +573,14 @@ TEST_F(LoggingWrapperTest, TraceLineFormat) {
     EXPECT_EQ("TR MyFile.cpp              :42    - myFunction                hello world", withoutStamp(lines[0]));
 }
 
+TEST_F(LoggingWrapperTest, LongTraceMessageIsWrittenWhole) {
+    const std::string dump(5000, 'd');
+    logger()->trace_printf("f.cpp", "dumpModel", 1, 8, 0, "%s", dump.c_str());
+    const std::vector<std::string> lines = logLines();
+    ASSERT_EQ(1u, lines.size());
+    EXPECT_EQ("TR f.cpp                   :1     - dumpModel                 " + dump, withoutStamp(lines[0]));
+}
+
 TEST_F(LoggingWrapperTest, TraceKindsWriteTheSameLineToTheFile) {
     logger()->trace_printf("MyFile.cpp", "myFunction", 42, 8, 9, " >> in");
     logger()->trace_printf("MyFile.cpp", "myFunction", 43, 8, 10, " << out");
