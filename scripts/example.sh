@@ -4,4 +4,4 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/bootstrap.sh
 scripts/build.sh
-build/bin/zef_model_validator examples/basic/model.xml
+build/bin/zef_model_validator -d examples/multi
