@@ -5,6 +5,7 @@
 #include "ModelRepository.h"
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -111,23 +112,33 @@ const BiDirEndTexts secondEndTexts = {
     "Second association end attribute (%s)",
 };
 
-/// Lists a bidirectional association with a class it ends at, once.
-void listBiDirWithClass(MocWrapper& moc, BiDirAssociationWrapper& assoc)
+/// The classes whose association lists grew; each list is sorted once,
+/// after all associations of the pass are listed, rather than after each
+/// addition.
+using GrownLists = std::set<MocWrapper*>;
+
+void sortBiDirLists(const GrownLists& classes)
 {
-    for (const BiDirAssociationWrapper* listed : moc.getBiDirList()) {
-        if (listed == &assoc) {
-            return;
-        }
+    for (MocWrapper* moc : classes) {
+        moc->sortBiDirAssociationWrappers();
     }
-    moc.addBiDirWrapper(&assoc);
-    moc.sortBiDirAssociationWrappers();
 }
 
-/// Gives each end of a bidirectional association its class.
+void sortUniDirLists(const GrownLists& classes)
+{
+    for (MocWrapper* moc : classes) {
+        moc->sortUniDirAssociationWrappers();
+    }
+}
+
+/// Gives each end of a bidirectional association its class and lists the
+/// association with each class it ends at (once, also when both ends are
+/// the same class).
 void resolveBiDirEndClasses(ModelRepository& repository, BiDirAssociationWrapper& assoc, const ClassesByName& classes,
-                          const CompileReporter& reporter)
+                            const CompileReporter& reporter, GrownLists& grown)
 {
     const std::string key = assoc.getId();
+    const MocWrapper* firstClass = nullptr;
     for (const BiDirEndTexts* texts : {&firstEndTexts, &secondEndTexts}) {
         AssociationEndWrapper* end = findEnd(repository, (assoc.*texts->endKey)());
         MocWrapper* moc = classes.endClass(end);
@@ -137,14 +148,18 @@ void resolveBiDirEndClasses(ModelRepository& repository, BiDirAssociationWrapper
         }
         end->setMoc(&moc->getStruct());
         ZEF_TRACE(texts->mocTrace, key.c_str());
-        listBiDirWithClass(*moc, assoc);
+        if (moc != firstClass) {
+            moc->addBiDirWrapper(&assoc);
+            grown.insert(moc);
+        }
+        firstClass = moc;
     }
 }
 
 /// One unidirectional association: its end, its origin class, the end's
 /// class and the end's attribute in the origin class.
 void setUniDirectionalAssociation(ModelRepository& repository, UniDirAssociationWrapper& assoc,
-                                  const ClassesByName& classes, const CompileReporter& reporter)
+                                  const ClassesByName& classes, const CompileReporter& reporter, GrownLists& grown)
 {
     const std::string key = assoc.getId();
     AssociationEndWrapper* end = findEnd(repository, assoc.getAssociationEndId());
@@ -170,14 +185,14 @@ void setUniDirectionalAssociation(ModelRepository& repository, UniDirAssociation
         end->setMoc(&endMoc->getStruct());
         ZEF_TRACE("association end moc (%s)", endMoc->getId().c_str());
         origin.addUniDirWrapper(&assoc);
-        origin.sortUniDirAssociationWrappers();
+        grown.insert(&origin);
     } else if (!assoc.getIsExternal()) {
         reporter.report(ZEF_LOG_LEVEL_ERROR, "Failed to resolve association end moc for unidirectional (%s)",
                         key.c_str());
     } else {
         // The class at an external end lives in another model.
         origin.addUniDirWrapper(&assoc);
-        origin.sortUniDirAssociationWrappers();
+        grown.insert(&origin);
         ZEF_TRACE("UniDirAssociation (%s) is external, association end moc (%s) is set with no attribute and moc",
                   key.c_str(), end != nullptr ? end->getClassifier().c_str() : "");
     }
@@ -202,12 +217,14 @@ void ModelRepository::setBiDirectionalAssociations()
 {
     const ClassesByName classes(_mocs);
     const CompileReporter reporter = compileReporter();
+    GrownLists grown;
     for (const auto& entry : _bidirs) {
         ZEF_TRACE("Setting bidirectional association (%s)", entry.first.c_str());
         setBiDirectionalAssociationEnds(*entry.second);
-        resolveBiDirEndClasses(*this, *entry.second, classes, reporter);
+        resolveBiDirEndClasses(*this, *entry.second, classes, reporter, grown);
         setBiDirectionalAttributes(*entry.second);
     }
+    sortBiDirLists(grown);
 }
 
 void ModelRepository::setBiDirectionalAssociationEnds(BiDirAssociationWrapper& assoc)
@@ -233,7 +250,9 @@ void ModelRepository::setBiDirectionalAssociationEnds(BiDirAssociationWrapper& a
 void ModelRepository::setBiDirectionalMocs(BiDirAssociationWrapper& assoc)
 {
     const CompileReporter reporter = compileReporter();
-    resolveBiDirEndClasses(*this, assoc, ClassesByName(_mocs), reporter);
+    GrownLists grown;
+    resolveBiDirEndClasses(*this, assoc, ClassesByName(_mocs), reporter, grown);
+    sortBiDirLists(grown);
 }
 
 void ModelRepository::setBiDirectionalAttributes(BiDirAssociationWrapper& assoc)
@@ -281,10 +300,12 @@ void ModelRepository::setUniDirectionalAssociations()
 {
     const ClassesByName classes(_mocs);
     const CompileReporter reporter = compileReporter();
+    GrownLists grown;
     for (const auto& entry : _unidirs) {
         ZEF_TRACE("Setting unidirectional association (%s)", entry.first.c_str());
-        setUniDirectionalAssociation(*this, *entry.second, classes, reporter);
+        setUniDirectionalAssociation(*this, *entry.second, classes, reporter, grown);
     }
+    sortUniDirLists(grown);
 }
 
 } // namespace ZefModelRepositoryService

@@ -282,6 +282,23 @@ TEST_F(BiDirCompileTest, AssociationsAreCompiledInKeyOrder) {
               takeMessages());
 }
 
+TEST_F(BiDirCompileTest, ClassListsTheirAssociationsInHandleOrder) {
+    addAttr(a, "roleB", ZefMrType3Int8);
+    addAttr(b, "roleA", ZefMrType3Int8);
+    addEnds();
+    BiDirAssociationWrapper* x = addBidir(m, "x", "M~1.0~roleA~rel", "M~1.0~roleB~rel");
+    BiDirAssociationWrapper* y = addBidir(m, "y", "M~1.0~roleA~rel", "M~1.0~roleB~rel");
+    x->setHandle(3020);
+    y->setHandle(3018);
+
+    repository.compileModel();
+
+    const std::vector<BiDirAssociationWrapper*> expected = {y, x};
+    EXPECT_EQ(expected, std::vector<BiDirAssociationWrapper*>(a->getBiDirList().begin(), a->getBiDirList().end()));
+    EXPECT_EQ(expected, std::vector<BiDirAssociationWrapper*>(b->getBiDirList().begin(), b->getBiDirList().end()));
+    EXPECT_TRUE(takeMessages().empty());
+}
+
 // ---- unidirectional ----------------------------------------------------------------
 
 /// A unidirectional association "u" of MOM M from A to the end "toB" at B;
@@ -438,19 +455,23 @@ TEST_F(UniDirCompileTest, ModellingStandardMimNameOfTheEndIsTranslated) {
     EXPECT_TRUE(takeMessages().empty());
 }
 
-TEST_F(UniDirCompileTest, SeveralAssociationsOfOneOriginAreAllListed) {
+TEST_F(UniDirCompileTest, SeveralAssociationsOfOneOriginAreListedInHandleOrder) {
     addAttr(a, "toB", ZefMrType3Int8);
     addAttr(a, "toA", ZefMrType3Int8);
     addEndAt("B");
     addEnd(m, "toA", "rel", "A", "M");
     UniDirAssociationWrapper* u1 = addUnidir(m, "u1", "M~1.0~toB~rel", "M~1.0~A");
     UniDirAssociationWrapper* u2 = addUnidir(m, "u2", "M~1.0~toA~rel", "M~1.0~A");
+    UniDirAssociationWrapper* u3 = addUnidir(m, "u3", "M~1.0~toA~rel", "M~1.0~A", true);
+    // The lists follow handle order, not key order.
+    u1->setHandle(3019);
+    u2->setHandle(3017);
+    u3->setHandle(3018);
 
     repository.compileModel();
 
-    EXPECT_EQ(2u, a->getUniDirList().size());
-    EXPECT_TRUE(lists(a, u1));
-    EXPECT_TRUE(lists(a, u2));
+    EXPECT_EQ((std::vector<UniDirAssociationWrapper*>{u2, u3, u1}),
+              std::vector<UniDirAssociationWrapper*>(a->getUniDirList().begin(), a->getUniDirList().end()));
     EXPECT_TRUE(takeMessages().empty());
 }
 
