@@ -1,5 +1,6 @@
 #include "AssociationEndWrapper.h"
 
+#include <cstring>
 #include <limits>
 #include <sstream>
 
@@ -124,13 +125,29 @@ ZefReturnT AssociationEndWrapper::setMimVersion(const std::string& mimVersion)
     return ZefOk;
 }
 
+namespace {
+
+/// `text` (null meaning the empty text) equals `expected`, compared in
+/// place: compilation asks this for every attribute of the classes at the
+/// ends of every association.
+bool sameText(const char* text, const std::string& expected)
+{
+    return expected.compare(text != nullptr ? text : "") == 0;
+}
+
+bool sameText(const char* text, const char* expected)
+{
+    return std::strcmp(text != nullptr ? text : "", expected != nullptr ? expected : "") == 0;
+}
+
+} // namespace
+
 bool AssociationEndWrapper::isReservedMoc(const ZefOamSpiMoc* moc) const
 {
     if (moc == nullptr || moc->mom == nullptr) {
         return false;
     }
-    return MrUtil::str(moc->generalProperties.name) == _classifier
-           && MrUtil::str(moc->mom->generalProperties.name) == _mimName;
+    return sameText(moc->generalProperties.name, _classifier) && sameText(moc->mom->generalProperties.name, _mimName);
 }
 
 bool AssociationEndWrapper::isReservedMoc(const MocWrapper* moc) const
@@ -140,7 +157,10 @@ bool AssociationEndWrapper::isReservedMoc(const MocWrapper* moc) const
 
 bool AssociationEndWrapper::isReservedAttribute(const ZefOamSpiMoAttribute* attr) const
 {
-    return attr != nullptr && MrUtil::str(attr->generalProperties.name) == getName();
+    if (attr == nullptr) {
+        return false;
+    }
+    return sameText(attr->generalProperties.name, _end.generalProperties.name);
 }
 
 bool AssociationEndWrapper::isReservedAttribute(const AttrWrapper* attr) const

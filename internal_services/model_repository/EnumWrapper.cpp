@@ -66,29 +66,30 @@ ZefReturnT EnumWrapper::addLiteral(LitWrapper* literal)
     }
     // Values are compared before names: a literal that repeats a value is
     // refused with a code of its own even when its name is new.
-    for (const LitWrapper* listed : _literals) {
-        if (listed->getValue() == literal->getValue()) {
-            ZEF_TRACE("Could not add literal (%s), the value of %lld already exists.", getId().c_str(),
-                      static_cast<long long>(literal->getValue()));
-            return ZefFailure;
-        }
+    if (_literalValues.count(literal->getValue()) != 0) {
+        ZEF_TRACE("Could not add literal (%s), the value of %lld already exists.", getId().c_str(),
+                  static_cast<long long>(literal->getValue()));
+        return ZefFailure;
     }
     const std::string key = literal->getId();
     if (key.empty()) {
         return ZefInvalidArgument;
     }
+    const std::size_t hash = KeyHashIndex::hashOf(key);
     if (_literals.empty()) {
         _literals.push_back(literal);
+        _literalKeys.add(hash);
+        _literalValues.insert(literal->getValue());
         _enum.literals = &literal->getStruct();
         return ZefOk;
     }
-    for (const LitWrapper* listed : _literals) {
-        if (listed->getId() == key) {
-            return ZefAlreadyExists;
-        }
+    if (_literalKeys.contains(_literals, key, hash)) {
+        return ZefAlreadyExists;
     }
     _literals.back()->setNext(literal);
     _literals.push_back(literal);
+    _literalKeys.add(hash);
+    _literalValues.insert(literal->getValue());
     return ZefOk;
 }
 

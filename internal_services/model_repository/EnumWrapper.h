@@ -4,8 +4,10 @@
 #include <cstdint>
 #include <list>
 #include <string>
+#include <unordered_set>
 
 #include "GeneralPropertiesWrapper.h"
+#include "KeyHashIndex.h"
 #include "LitWrapper.h"
 #include "ZefOamSpiMrTypes.h"
 #include "ZefReturn.h"
@@ -65,6 +67,9 @@ public:
 private:
     ZefOamSpiEnum _enum;
     LiteralList _literals;
+    // The keys and values of the literals, for the duplicate checks of addLiteral.
+    KeyHashIndex _literalKeys;
+    std::unordered_set<int64_t> _literalValues;
     mutable std::string _id;
 };
 

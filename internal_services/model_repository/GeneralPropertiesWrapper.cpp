@@ -135,7 +135,14 @@ const DomainExtensionWrapper* GeneralPropertiesWrapper::getDomainExtension(const
 
 bool GeneralPropertiesWrapper::isNillable() const
 {
-    return getDomainExtension("QCIM", "isNillable") != nullptr;
+    // Asked for every attribute while compiling: the names are compared in
+    // place rather than built as strings for getDomainExtension.
+    for (const DomainExtensionWrapper* extension : _domainExtensions) {
+        if (extension->getDomain() == "QCIM" && extension->getName() == "isNillable") {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace ZefModelRepositoryService

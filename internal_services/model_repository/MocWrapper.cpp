@@ -18,9 +18,10 @@ namespace {
 
 /// Appends a member (attribute or action) to a class's list and to the
 /// chain of published records: the first member becomes `first`, later
-/// ones are linked behind the last. Duplicate keys are refused.
+/// ones are linked behind the last. Duplicate keys are refused; `keys`
+/// indexes the keys of the list.
 template <typename Member, typename Record>
-ZefReturnT appendToChain(std::list<Member*>& list, Member* member, const Record*& first)
+ZefReturnT appendToChain(std::list<Member*>& list, KeyHashIndex& keys, Member* member, const Record*& first)
 {
     if (member == nullptr) {
         return ZefNotFound;
@@ -29,18 +30,19 @@ ZefReturnT appendToChain(std::list<Member*>& list, Member* member, const Record*
     if (key.empty()) {
         return ZefInvalidArgument;
     }
+    const std::size_t hash = KeyHashIndex::hashOf(key);
     if (list.empty()) {
         list.push_back(member);
+        keys.add(hash);
         first = &member->getStruct();
         return ZefOk;
     }
-    for (const Member* listed : list) {
-        if (listed->getId() == key) {
-            return ZefAlreadyExists;
-        }
+    if (keys.contains(list, key, hash)) {
+        return ZefAlreadyExists;
     }
     list.back()->setNext(member);
     list.push_back(member);
+    keys.add(hash);
     return ZefOk;
 }
 
@@ -202,12 +204,12 @@ ZefReturnT MocWrapper::setValidationRulesConstraint(const std::string& constrain
 
 ZefReturnT MocWrapper::addAttr(AttrWrapper* attr)
 {
-    return appendToChain(_attrs, attr, _moc.moAttribute);
+    return appendToChain(_attrs, _attrKeys, attr, _moc.moAttribute);
 }
 
 ZefReturnT MocWrapper::addMoAction(MoActionWrapper* action)
 {
-    return appendToChain(_actions, action, _moc.moAction);
+    return appendToChain(_actions, _actionKeys, action, _moc.moAction);
 }
 
 ZefReturnT MocWrapper::addBiDirWrapper(BiDirAssociationWrapper* assoc)

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "GeneralPropertiesWrapper.h"
+#include "KeyHashIndex.h"
 #include "ZefOamSpiMrTypes.h"
 #include "ZefReturn.h"
 
@@ -128,6 +129,8 @@ private:
     bool _hasValidationRulesConstraint = false;
     AttrList _attrs;
     MoActionList _actions;
+    KeyHashIndex _attrKeys;
+    KeyHashIndex _actionKeys;
     BiDirList _biDirs;
     UniDirList _uniDirs;
     mutable std::string _id;

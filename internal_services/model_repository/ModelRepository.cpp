@@ -170,6 +170,7 @@ ZefReturnT ModelRepository::addMom(MomWrapper* mom) {
     }
     _moms.push_back(mom);
     _qcimMomIndexValid = false;
+    _momsByNameValid = false;
     return ZefOk;
 }
 
@@ -355,23 +356,33 @@ ZefReturnT ModelRepository::getFileName(const char* momName, const char* momVers
 
 // ---- name and version resolution -------------------------------------------
 
-void ModelRepository::getMimVersion(std::string mimName, std::string& mimVersion) {
-    bool found = false;
-    for (const MomWrapper* mom : _moms) {
-        const ZefOamSpiMom* record = &mom->getStruct();
-        if (nameOf(record->generalProperties) != mimName) {
-            continue;
+const std::vector<MomWrapper*>& ModelRepository::momsNamed(const std::string& mimName) {
+    // Compilation asks for the version of a MOM named without one for every
+    // such reference; one index, built on first use and renewed after a MOM
+    // is added, answers each without a walk over the MOM list.
+    if (!_momsByNameValid) {
+        _momsByName.clear();
+        for (MomWrapper* mom : _moms) {
+            _momsByName[nameOf(mom->getStruct().generalProperties)].push_back(mom);
         }
-        if (!found) {
-            mimVersion = textOf(record->version);
-            found = true;
-        } else {
-            mimVersion.clear();
-            ZEF_LOG_ERROR("Can not resolve mimVersion, multiple possible MIMs (%s)", mimName.c_str());
-        }
+        _momsByNameValid = true;
     }
-    if (!found) {
+    static const std::vector<MomWrapper*> none;
+    auto found = _momsByName.find(mimName);
+    return found == _momsByName.end() ? none : found->second;
+}
+
+void ModelRepository::getMimVersion(std::string mimName, std::string& mimVersion) {
+    const std::vector<MomWrapper*>& moms = momsNamed(mimName);
+    if (moms.empty()) {
         ZEF_LOG_ERROR("Cannot find Mim(%s), no such Mim.", mimName.c_str());
+        return;
+    }
+    mimVersion = textOf(moms.front()->getStruct().version);
+    // Every further MOM of that name makes the version ambiguous.
+    for (std::size_t i = 1; i < moms.size(); ++i) {
+        mimVersion.clear();
+        ZEF_LOG_ERROR("Can not resolve mimVersion, multiple possible MIMs (%s)", mimName.c_str());
     }
 }
 
@@ -536,6 +547,9 @@ void ModelRepository::cleanup() {
     _mocsByNameValid = false;
     _qcimMomIndex.clear();
     _qcimMomIndexValid = false;
+    _momsByName.clear();
+    _momsByNameValid = false;
+    _patterns.clear();
     ZEF_TRACE_LEAVE(" << ");
 }
 

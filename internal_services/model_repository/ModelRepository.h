@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "MocWrapper.h"
+#include "PatternCache.h"
 #include "ZefOamSpiMrTypes.h"
 #include "ZefReturn.h"
 
@@ -122,6 +123,9 @@ public:
     void translateMimNames(ContWrapper& cont);
     /// Files every class under its plain name (duplicates kept).
     void buildMocNameCache();
+    /// The classes of one plain name, in key order (an index built on first
+    /// use, renewed after a class is added).
+    const std::vector<MocWrapper*>& mocsNamed(const std::string& mocName);
     /// Writes every record's dump to the trace.
     void dumpModel();
     /// Destroys every record and empties the registries; keeps the message
@@ -213,12 +217,12 @@ public:
 private:
     // Logs a finding at its level and reports it as the repository's own.
     void report(unsigned short level, const char* format, ...) __attribute__((format(printf, 3, 4)));
+    // The MOMs of one name, in the order added.
+    const std::vector<MomWrapper*>& momsNamed(const std::string& mimName);
     // The common checks of a map-based add: null, incomplete, duplicate.
     template <typename Map, typename Record, typename IncompleteText>
     ZefReturnT addRecord(Map& map, Record* record, const char* nullText, IncompleteText incompleteText,
                          const char* duplicateFormat);
-    // The classes of one plain name, in key order.
-    const std::vector<MocWrapper*>& mocsNamed(const std::string& mocName);
 
     std::list<std::string> _messages;
     char _messageBuffer[4096];
@@ -240,10 +244,14 @@ private:
 
     // Indexes that keep lookups by name linear in the size of the model.
     std::set<std::string> _momKeys;
+    std::unordered_map<std::string, std::vector<MomWrapper*>> _momsByName;
+    bool _momsByNameValid = false;
     std::unordered_map<std::string, std::vector<MocWrapper*>> _mocsByName;
     bool _mocsByNameValid = false;
     std::unordered_map<std::string, MomWrapper*> _qcimMomIndex;
     bool _qcimMomIndexValid = false;
+    // The patterns of doRegexp, compiled once each.
+    PatternCache _patterns;
 };
 
 } // namespace ZefModelRepositoryService

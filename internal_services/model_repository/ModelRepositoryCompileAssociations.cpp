@@ -4,7 +4,6 @@
 
 #include "ModelRepository.h"
 
-#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -22,18 +21,12 @@ namespace ZefModelRepositoryService {
 
 namespace {
 
-/// The classes of the model by plain name, each name's classes in key
-/// order, so that the class at an association end (the first class in key
-/// order that the end reserves) is found among the few classes of its
-/// classifier's name instead of by a walk over all classes.
+/// The class at an association end: the first class in key order that the
+/// end reserves, looked for among the classes of its classifier's name (the
+/// repository's index by plain name) instead of by a walk over all classes.
 class ClassesByName {
 public:
-    explicit ClassesByName(const ModelRepository::MocMap& mocs)
-    {
-        for (const auto& entry : mocs) {
-            _byName[MrUtil::str(entry.second->getStruct().generalProperties.name)].push_back(entry.second);
-        }
-    }
+    explicit ClassesByName(ModelRepository& repository) : _repository(repository) {}
 
     /// The first class in key order that `end` reserves, or null.
     MocWrapper* endClass(const AssociationEndWrapper* end) const
@@ -41,11 +34,7 @@ public:
         if (end == nullptr) {
             return nullptr;
         }
-        const auto candidates = _byName.find(end->getClassifier());
-        if (candidates == _byName.end()) {
-            return nullptr;
-        }
-        for (MocWrapper* moc : candidates->second) {
+        for (MocWrapper* moc : _repository.mocsNamed(end->getClassifier())) {
             if (end->isReservedMoc(moc)) {
                 return moc;
             }
@@ -54,7 +43,7 @@ public:
     }
 
 private:
-    std::map<std::string, std::vector<MocWrapper*>> _byName;
+    ModelRepository& _repository;
 };
 
 AssociationEndWrapper* findEnd(const ModelRepository& repository, const std::string& key)
@@ -215,7 +204,7 @@ void setUniDirectionalAssociation(ModelRepository& repository, UniDirAssociation
 
 void ModelRepository::setBiDirectionalAssociations()
 {
-    const ClassesByName classes(_mocs);
+    const ClassesByName classes(*this);
     const CompileReporter reporter = compileReporter();
     GrownLists grown;
     for (const auto& entry : _bidirs) {
@@ -251,7 +240,7 @@ void ModelRepository::setBiDirectionalMocs(BiDirAssociationWrapper& assoc)
 {
     const CompileReporter reporter = compileReporter();
     GrownLists grown;
-    resolveBiDirEndClasses(*this, assoc, ClassesByName(_mocs), reporter, grown);
+    resolveBiDirEndClasses(*this, assoc, ClassesByName(*this), reporter, grown);
     sortBiDirLists(grown);
 }
 
@@ -298,7 +287,7 @@ void ModelRepository::setBiDirectionalAttributes(BiDirAssociationWrapper& assoc)
 
 void ModelRepository::setUniDirectionalAssociations()
 {
-    const ClassesByName classes(_mocs);
+    const ClassesByName classes(*this);
     const CompileReporter reporter = compileReporter();
     GrownLists grown;
     for (const auto& entry : _unidirs) {

@@ -5,8 +5,6 @@
 
 #include "ModelRepository.h"
 
-#include <regex.h>
-
 #include <cstdint>
 #include <functional>
 #include <set>
@@ -200,42 +198,6 @@ std::unordered_map<const Record*, std::string> keysByRecord(const Map& map)
     }
     return keys;
 }
-
-/// A compiled POSIX extended regular expression, freed with its owner.
-/// Compiled without sub-match reporting: validation only asks whether a
-/// value matches.
-class CompiledPattern {
-public:
-    explicit CompiledPattern(const std::string& pattern)
-        : _result(regcomp(&_regex, pattern.c_str(), REG_EXTENDED | REG_NOSUB))
-    {
-    }
-    ~CompiledPattern()
-    {
-        if (_result == 0) {
-            regfree(&_regex);
-        }
-    }
-    CompiledPattern(const CompiledPattern&) = delete;
-    CompiledPattern& operator=(const CompiledPattern&) = delete;
-
-    bool compiled() const { return _result == 0; }
-    /// The compiler's explanation of a failure.
-    std::string error() const
-    {
-        const size_t size = regerror(_result, &_regex, nullptr, 0);
-        std::string text(size, '\0');
-        regerror(_result, &_regex, &text[0], size);
-        text.resize(size > 0 ? size - 1 : 0);
-        return text;
-    }
-    /// Whether the pattern matches somewhere in `text`.
-    bool matches(const std::string& text) const { return regexec(&_regex, text.c_str(), 0, nullptr, 0) == 0; }
-
-private:
-    regex_t _regex;
-    int _result;
-};
 
 } // namespace
 
@@ -768,8 +730,10 @@ void ModelRepository::checkUniDirectionalAssociations()
 bool ModelRepository::doRegexp(std::string pattern, std::string text)
 {
     // Every pattern of the model is compiled and run here and nowhere else,
-    // so limits on what a pattern may cost belong here too.
-    const CompiledPattern compiled(pattern);
+    // so limits on what a pattern may cost belong here too. A pattern is
+    // compiled once and kept; a pattern that does not compile is reported
+    // at every use, as each use is a value that could not be checked.
+    const PatternCache::Entry& compiled = _patterns.get(pattern);
     if (!compiled.compiled()) {
         report(levelError, patternDoesNotCompile, pattern.c_str(), compiled.error().c_str());
         return false;

@@ -4,6 +4,7 @@
 #include <list>
 #include <string>
 
+#include "KeyHashIndex.h"
 #include "ZefLog.h"
 #include "ZefReturn.h"
 
@@ -53,19 +54,20 @@ public:
             ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "Member id is empty, can not add to the list.");
             return ZefInvalidArgument;
         }
+        const std::size_t hash = KeyHashIndex::hashOf(key);
         if (_members.empty()) {
             _members.push_back(member);
+            _keys.add(hash);
             first = &member->getStruct();
             return ZefOk;
         }
-        for (const T* listed : _members) {
-            if (listed->getId() == key) {
-                ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "Member (%s) already exist.", key.c_str());
-                return ZefAlreadyExists;
-            }
+        if (_keys.contains(_members, key, hash)) {
+            ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "Member (%s) already exist.", key.c_str());
+            return ZefAlreadyExists;
         }
         _members.back()->setNext(member);
         _members.push_back(member);
+        _keys.add(hash);
         return ZefOk;
     }
 
@@ -77,6 +79,7 @@ public:
 
 private:
     List _members;
+    KeyHashIndex _keys;
 };
 
 } // namespace ZefModelRepositoryService

@@ -153,6 +153,24 @@ TEST(EnumWrapperTest, DuplicateNameIsRefused)
     delete again;
 }
 
+TEST(EnumWrapperTest, DuplicatesAmongManyLiteralsAreRefused)
+{
+    ZefTest::LogCapture log;
+    EnumFixture f;
+    for (int i = 0; i < 200; ++i) {
+        ASSERT_EQ(ZefOk, f.enumeration.addLiteral(EnumFixture::literal("L" + std::to_string(i), std::to_string(i))));
+    }
+    LitWrapper* sameValue = EnumFixture::literal("NEW", "150");
+    LitWrapper* sameName = EnumFixture::literal("L42", "1000");
+    EXPECT_EQ(ZefFailure, f.enumeration.addLiteral(sameValue));
+    EXPECT_EQ(ZefAlreadyExists, f.enumeration.addLiteral(sameName));
+    EXPECT_EQ(ZefOk, f.enumeration.addLiteral(EnumFixture::literal("NEW", "1000")));
+    EXPECT_EQ(201u, f.enumeration.getLiteralsList().size());
+    EXPECT_EQ(Messages{"Could not add literal (m~1.0~E), the value of 150 already exists."}, log.traces());
+    delete sameValue;
+    delete sameName;
+}
+
 TEST(EnumWrapperTest, LiteralWithoutValueIsRefused)
 {
     ZefTest::LogCapture log;

@@ -266,6 +266,24 @@ TEST(MocWrapperTest, DuplicateAttributeIsRefusedAndChainKeepsTheFirst)
     EXPECT_EQ(nullptr, b->getStruct().next);
 }
 
+TEST(MocWrapperTest, DuplicateAmongManyAttributesAndActionsIsRefused)
+{
+    ClassFixture f;
+    for (int i = 0; i < 300; ++i) {
+        ASSERT_EQ(ZefOk, f.moc.addAttr(f.attr("a" + std::to_string(i))));
+        ASSERT_EQ(ZefOk, f.moc.addMoAction(f.action("x" + std::to_string(i))));
+    }
+    EXPECT_EQ(ZefAlreadyExists, f.moc.addAttr(f.attr("a0")));
+    EXPECT_EQ(ZefAlreadyExists, f.moc.addAttr(f.attr("a137")));
+    EXPECT_EQ(ZefAlreadyExists, f.moc.addAttr(f.attr("a299")));
+    EXPECT_EQ(ZefAlreadyExists, f.moc.addMoAction(f.action("x211")));
+    // An attribute and an action of one name have different keys lists.
+    EXPECT_EQ(ZefOk, f.moc.addAttr(f.attr("x5")));
+    EXPECT_EQ(301u, f.moc.getAttrsList().size());
+    EXPECT_EQ(300u, f.moc.getMoActionList().size());
+    EXPECT_EQ("x5", f.moc.getAttrsList().back()->getName());
+}
+
 TEST(MocWrapperTest, DumpWithoutContainmentsOrAttributes)
 {
     ZefTest::LogCapture log;

@@ -229,6 +229,24 @@ TEST_F(ModelRepositoryTest, MimVersionOfAUniqueAmbiguousAndMissingMom) {
     EXPECT_TRUE(messages().empty());
 }
 
+TEST_F(ModelRepositoryTest, MimVersionSeesMomsAddedAfterALookup) {
+    ASSERT_EQ(ZefOk, repository.addMom(newMom("a", "1")));
+    std::string version;
+    repository.getMimVersion("a", version);
+    EXPECT_EQ("1", version);
+    repository.getMimVersion("b", version);
+    EXPECT_EQ("1", version);
+    ASSERT_EQ(ZefOk, repository.addMom(newMom("b", "7")));
+    ASSERT_EQ(ZefOk, repository.addMom(newMom("a", "2")));
+    repository.getMimVersion("b", version);
+    EXPECT_EQ("7", version);
+    repository.getMimVersion("a", version);
+    EXPECT_EQ("", version);
+    EXPECT_EQ((std::vector<std::string>{"Cannot find Mim(b), no such Mim.",
+                                        "Can not resolve mimVersion, multiple possible MIMs (a)"}),
+              log.errors());
+}
+
 TEST_F(ModelRepositoryTest, MimNameAndVersionOfAClass) {
     MomWrapper* a = newMom("a", "1");
     MomWrapper* b = newMom("b", "2");

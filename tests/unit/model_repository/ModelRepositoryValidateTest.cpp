@@ -401,5 +401,17 @@ TEST_F(ValidateTest, PatternThatDoesNotCompileIsAnErrorAndNoMatch) {
               takeMessages());
 }
 
+TEST_F(ValidateTest, PatternThatDoesNotCompileIsReportedAtEveryUse) {
+    EXPECT_FALSE(repository.doRegexp("(", "a"));
+    EXPECT_TRUE(repository.doRegexp("^a+$", "aa"));
+    EXPECT_FALSE(repository.doRegexp("(", "b"));
+    EXPECT_FALSE(repository.doRegexp("^a+$", "ab"));
+    EXPECT_TRUE(repository.doRegexp("^a+$", "a"));
+
+    EXPECT_EQ((Strings{error("Failed to compile posix regular expression \"(\" - got error Unmatched ( or \\("),
+                       error("Failed to compile posix regular expression \"(\" - got error Unmatched ( or \\(")}),
+              takeMessages());
+}
+
 } // namespace
 } // namespace ZefTest

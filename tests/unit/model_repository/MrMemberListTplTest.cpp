@@ -108,6 +108,21 @@ TEST(MrMemberListTplTest, DuplicateKeyIsRefusedAndTheChainStays)
     EXPECT_EQ(Messages{"Member (b) already exist."}, log.traces());
 }
 
+TEST(MrMemberListTplTest, DuplicateAmongManyMembersIsRefused)
+{
+    ZefTest::LogCapture log;
+    MrMemberListTpl<Member> list;
+    const Member::Record* first = nullptr;
+    for (int i = 0; i < 250; ++i) {
+        ASSERT_EQ(ZefOk, list.addMember(new Member("m" + std::to_string(i)), first));
+    }
+    Member again("m171");
+    EXPECT_EQ(ZefAlreadyExists, list.addMember(&again, first));
+    EXPECT_EQ(ZefOk, list.addMember(new Member("m250"), first));
+    EXPECT_EQ(251u, list.size());
+    EXPECT_EQ(Messages{"Member (m171) already exist."}, log.errors());
+}
+
 TEST(MrMemberListTplTest, ListDestroysItsMembers)
 {
     int destroyed = 0;
