@@ -264,9 +264,12 @@ std::string AttrWrapper::toString() const
         out << indent << "EnumDatatype:      " << typeKey(_attr.enumDatatype, EnumWrapper::getEnumId) << '\n';
         break;
     case ZefMrType3Reference:
-        // A reference without a named target stands for any class.
+        // A reference without a named target stands for any class, and so
+        // does the any-class record itself, which belongs to no MOM and so
+        // has no key.
         out << indent << "ReferencedMoc:     "
             << (_attr.referencedMoc == nullptr || _attr.referencedMoc->generalProperties.name == nullptr
+                        || _attr.referencedMoc->mom == nullptr
                     ? std::string("ManagedObject")
                     : MocWrapper::getMocId(_attr.referencedMoc))
             << '\n';

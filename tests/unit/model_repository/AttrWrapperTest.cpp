@@ -357,6 +357,11 @@ TEST(AttrWrapperTest, DumpOfAReferenceToAnyClass)
     MocWrapper nameless;
     f.attr.setReferencedMoc(&nameless.getStruct());
     EXPECT_NE(std::string::npos, f.attr.toString().find("    ReferencedMoc:     ManagedObject\n"));
+    // The any-class record of the repository: named, but of no MOM.
+    MocWrapper anyClass;
+    anyClass.setName("ManagedObject");
+    f.attr.setReferencedMoc(&anyClass.getStruct());
+    EXPECT_NE(std::string::npos, f.attr.toString().find("    ReferencedMoc:     ManagedObject\n"));
     EXPECT_TRUE(log.errors().empty());
 }
 
