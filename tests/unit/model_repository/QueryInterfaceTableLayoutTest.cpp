@@ -31,6 +31,42 @@ static_assert(kHead == 3 * sizeof(const char*), "three texts head every interfac
 static_assert(sizeof(ZefOamSpiStatus_2) == 4, "status code is 32-bit");
 static_assert(sizeof(ZefOamSpiMrIntProperty_4) == 4, "property codes are 32-bit");
 
+// The codes are part of the interface as much as the slots are.
+#define ZEF_CODE(code, value) static_assert((code) == (value), #code)
+ZEF_CODE(ZefOamSpiStatus2Current, 1);
+ZEF_CODE(ZefOamSpiStatus2Deprecated, 2);
+ZEF_CODE(ZefOamSpiStatus2Obsolete, 3);
+ZEF_CODE(ZefMrMoRefProperty3Moc, 0);
+ZEF_CODE(ZefMrIntProperty3Resolution, 0);
+ZEF_CODE(ZefMrIntProperty3Min, 1);
+ZEF_CODE(ZefMrIntProperty3Max, 2);
+ZEF_CODE(ZefMrIntProperty3FirstRange, 3);
+ZEF_CODE(ZefMrStringProperty3Pattern, 0);
+ZEF_CODE(ZefMrStringProperty3ExceptionText, 1);
+ZEF_CODE(ZefMrStringProperty3MinLength, 2);
+ZEF_CODE(ZefMrStringProperty3MaxLength, 3);
+ZEF_CODE(ZefMrStringProperty3IsPassphrase, 4);
+ZEF_CODE(ZefMrStringProperty3FirstLengthRange, 5);
+ZEF_CODE(ZefMrFloatProperty3Resolution, 0);
+ZEF_CODE(ZefMrFloatProperty3Min, 1);
+ZEF_CODE(ZefMrFloatProperty3Max, 2);
+ZEF_CODE(ZefMrFloatProperty3FirstRange, 3);
+ZEF_CODE(ZefMrMoRefProperty4Moc, 0);
+ZEF_CODE(ZefMrIntProperty4Resolution, 0);
+ZEF_CODE(ZefMrIntProperty4Min, 1);
+ZEF_CODE(ZefMrIntProperty4Max, 2);
+ZEF_CODE(ZefMrIntProperty4FirstRange, 3);
+ZEF_CODE(ZefMrStringProperty4Pattern, 0);
+ZEF_CODE(ZefMrStringProperty4ExceptionText, 1);
+ZEF_CODE(ZefMrStringProperty4MinLength, 2);
+ZEF_CODE(ZefMrStringProperty4MaxLength, 3);
+ZEF_CODE(ZefMrStringProperty4IsPassphrase, 4);
+ZEF_CODE(ZefMrStringProperty4FirstLengthRange, 5);
+ZEF_CODE(ZefMrFloatProperty4Resolution, 0);
+ZEF_CODE(ZefMrFloatProperty4Min, 1);
+ZEF_CODE(ZefMrFloatProperty4Max, 2);
+ZEF_CODE(ZefMrFloatProperty4FirstRange, 3);
+
 
 ZEF_SLOT(ZefOamSpiEntry_2, getMom, 0);
 ZEF_SLOT(ZefOamSpiEntry_2, getMoc, 1);
