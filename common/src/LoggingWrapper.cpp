@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <charconv>
 #include <cstdarg>
 #include <cstdlib>
 #include <cstring>
@@ -106,15 +107,26 @@ void fill_in_time_str(char* buf, int len) {
     // second are kept per thread and only the milliseconds are renewed.
     thread_local time_t cachedSecond = static_cast<time_t>(-1);
     thread_local char cachedText[64] = "";  // room for any year the C library may give
+    thread_local size_t cachedLength = 0;
     if (now.tv_sec != cachedSecond) {
         struct tm parts;
         if (localtime_r(&now.tv_sec, &parts) == nullptr)
             std::memset(&parts, 0, sizeof(parts));  // year 1900, January, all else zero
         std::snprintf(cachedText, sizeof(cachedText), "%4d-%02d-%02d %02d:%02d:%02d", parts.tm_year + 1900,
                       parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min, parts.tm_sec);
+        cachedLength = std::strlen(cachedText);
         cachedSecond = now.tv_sec;
     }
-    std::snprintf(buf, static_cast<size_t>(len), "%s.%03d", cachedText, millis);
+    // "%s.%03d" of the cached text and the milliseconds, cut to the buffer.
+    char stamp[sizeof(cachedText) + 4];
+    std::memcpy(stamp, cachedText, cachedLength);
+    stamp[cachedLength] = '.';
+    stamp[cachedLength + 1] = static_cast<char>('0' + millis / 100);
+    stamp[cachedLength + 2] = static_cast<char>('0' + millis / 10 % 10);
+    stamp[cachedLength + 3] = static_cast<char>('0' + millis % 10);
+    const size_t length = std::min(cachedLength + 4, static_cast<size_t>(len) - 1);
+    std::memcpy(buf, stamp, length);
+    buf[length] = '\0';
 }
 
 const char* path_tail(const char* path, char* buf, int len) {
@@ -238,10 +250,11 @@ void LoggingWrapper::set_trace_spi(ZefMgmtSpiInterface_1* spi) {
     if (version != nullptr && std::strcmp(version, "1") == 0) {
         _traceSpi1 = reinterpret_cast<ZefMwSpiTrace_1*>(spi);
     } else if (version != nullptr && std::strcmp(version, "2") == 0) {
-        _traceSpi2 = reinterpret_cast<ZefMwSpiTrace_2*>(spi);
+        ZefMwSpiTrace_2* const trace = reinterpret_cast<ZefMwSpiTrace_2*>(spi);
+        _traceSpi2 = trace;
         for (const TraceSubsystem& subsystem : kTraceSubsystems) {
-            if (_traceSpi2->registerSubsystem == nullptr ||
-                _traceSpi2->registerSubsystem(subsystem.name, subsystem.handle) != ZefOk)
+            if (trace->registerSubsystem == nullptr ||
+                trace->registerSubsystem(subsystem.name, subsystem.handle) != ZefOk)
                 std::fprintf(stderr, "Could not register %s subsystem in v2 of trace if\n", subsystem.reportedName);
         }
     } else {
@@ -308,20 +321,19 @@ void LoggingWrapper::trace_printf(const char* file, const char* function, int li
         return;
     }
     // A version "2" interface gets its traces from trace_v2_printf.
-    if (_traceSpi2 != nullptr || level != kTraceLevel)
+    if (_traceSpi2.load(std::memory_order_relaxed) != nullptr || level != kTraceLevel)
         return;
 
     char fileTail[kPathTailSize];
     path_tail(file, fileTail, sizeof(fileTail));
-    char message[kTraceMessageSize];
-    va_list args;
-    va_start(args, format);
-    std::vsnprintf(message, sizeof(message), format, args);
-    va_end(args);
-
     char text[kTraceLineSize];
+    va_list args;
     ZefMwSpiTrace_1* const spi = _traceSpi1;
     if (spi != nullptr) {
+        char message[kTraceMessageSize];
+        va_start(args, format);
+        std::vsnprintf(message, sizeof(message), format, args);
+        va_end(args);
         std::snprintf(text, sizeof(text), "%-24s:%-5d - %-25s %s", fileTail, line, orNullText(function), message);
         guard.release();
         if (kind == kTraceEnter) {
@@ -338,28 +350,114 @@ void LoggingWrapper::trace_printf(const char* file, const char* function, int li
 
     if (_file == nullptr)
         openFile();
-    char timeText[kTimeSize];
-    fill_in_time_str(timeText, sizeof(timeText));
-    const size_t length =
-        writtenLength(std::snprintf(text, sizeof(text), "%s %2s %-24s:%-5d - %-25s %s", timeText,
-                                    _get_level_str(level), fileTail, line, orNullText(function), message),
-                      sizeof(text));
+    va_start(args, format);
+    const size_t length = formatTraceLine(text, sizeof(text), fileTail, line, level, function, format, args);
+    va_end(args);
     check_and_rotate_log_file();
     writeLine(text, length, false);
+}
+
+namespace {
+
+/// A line built in a fixed buffer, cut (as snprintf cuts) at its size - 1.
+class LineBuilder {
+public:
+    LineBuilder(char* out, size_t size) : _out(out), _size(size) {}
+
+    void append(const char* text, size_t length) {
+        const size_t room = _size - 1 - _length;
+        const size_t taken = std::min(length, room);
+        std::memcpy(_out + _length, text, taken);
+        _length += taken;
+    }
+    void append(const char* text) { append(text, std::strlen(text)); }
+    /// `text` padded with blanks to `width`: on the right as "%-*s" does,
+    /// on the left as "%*s" does.
+    void appendPadded(const char* text, size_t length, size_t width, bool left) {
+        if (!left)
+            appendBlanks(width > length ? width - length : 0);
+        append(text, length);
+        if (left)
+            appendBlanks(width > length ? width - length : 0);
+    }
+    void appendBlanks(size_t count) {
+        const size_t taken = std::min(count, _size - 1 - _length);
+        std::memset(_out + _length, ' ', taken);
+        _length += taken;
+    }
+    size_t length() const { return _length; }
+    size_t room() const { return _size - 1 - _length; }
+    char* end() { return _out + _length; }
+    void grow(size_t count) { _length += std::min(count, room()); }
+    size_t finish() {
+        _out[_length] = '\0';
+        return _length;
+    }
+
+private:
+    char* _out;
+    size_t _size;
+    size_t _length = 0;
+};
+
+} // namespace
+
+size_t LoggingWrapper::formatTraceLine(char* text, size_t size, const char* fileTail, int line, unsigned int level,
+                                       const char* function, const char* format, va_list args) {
+    // The line snprintf(text, size, "%s %2s %-24s:%-5d - %-25s %s", time,
+    // level word, file, line, function, message) would give, the message
+    // formatted into kTraceMessageSize bytes first; built in place, as a
+    // trace-heavy run writes millions of these lines.
+    char timeText[kTimeSize];
+    fill_in_time_str(timeText, sizeof(timeText));
+    LineBuilder out(text, size);
+    out.append(timeText);
+    out.append(" ", 1);
+    const char* word = _get_level_str(level);
+    out.appendPadded(word, std::strlen(word), 2, false);
+    out.append(" ", 1);
+    out.appendPadded(fileTail, std::strlen(fileTail), 24, true);
+    out.append(":", 1);
+    char number[16];
+    const std::to_chars_result digits = std::to_chars(number, number + sizeof(number), line);
+    out.appendPadded(number, static_cast<size_t>(digits.ptr - number), 5, true);
+    out.append(" - ", 3);
+    const char* name = orNullText(function);
+    out.appendPadded(name, std::strlen(name), 25, true);
+    out.append(" ", 1);
+
+    // The message as its own buffer would keep it, and as far as the line has room.
+    const size_t limit = std::min(kTraceMessageSize - 1, out.room());
+    if (std::strcmp(format, "%s") == 0) {
+        // A record dump runs to kilobytes: copied, never scanned by the formatter.
+        const char* message = va_arg(args, const char*);
+        if (message == nullptr)
+            message = "(null)";
+        out.append(message, strnlen(message, limit));
+    } else {
+        const int formatted = std::vsnprintf(out.end(), limit + 1, format, args);
+        out.grow(writtenLength(formatted, limit + 1));
+    }
+    return out.finish();
 }
 
 void LoggingWrapper::trace_v2_printf(ZefMwSpiTraceSubsystemHandle_2T subsystem, ZefMwSpiTraceLevelT level,
                                      const char* file, const char* function, unsigned int line, const char* format,
                                      ...) {
+    // Every trace of the program calls here; without an interface of
+    // version "2" there is nothing to do, which needs no lock to see.
+    if (_traceSpi2.load(std::memory_order_relaxed) == nullptr)
+        return;
     ZefScopedLock guard(_lock);
-    if (_traceSpi2 == nullptr)
+    ZefMwSpiTrace_2* const spi = _traceSpi2.load(std::memory_order_relaxed);
+    if (spi == nullptr)
         return;
     closeFile();
-    if (_traceSpi2->print == nullptr)
+    if (spi->print == nullptr)
         return;
     va_list args;
     va_start(args, format);
-    _traceSpi2->print(subsystem, level, file, function, line, format, args);
+    spi->print(subsystem, level, file, function, line, format, args);
     va_end(args);
 }
 

@@ -2,6 +2,7 @@
 #define ZEF_LOGGING_WRAPPER_H
 
 #include <atomic>
+#include <cstdarg>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -99,6 +100,12 @@ private:
     /// Writes one line and its newline to the active file, or to standard
     /// error when no file is open. `flush` pushes the file buffer to disk.
     void writeLine(const char* line, size_t length, bool flush);
+    /// Formats a trace line for the file into `text` (of `size` bytes):
+    /// "time level file:line - function message", the message cut as the
+    /// trace cuts it. Returns the length of the line.
+    size_t formatTraceLine(char* text, size_t size, const char* fileTail, int line, unsigned int level,
+                           const char* function, const char* format, va_list args)
+        __attribute__((format(printf, 8, 0)));
 
     /// Numbered files of the log directory, ascending by number, then path.
     void getFileMatches(NumberedFileList& list) const;
@@ -113,7 +120,9 @@ private:
 
     ZefMwSpiLog_1* _logSpi = nullptr;
     ZefMwSpiTrace_1* _traceSpi1 = nullptr;
-    ZefMwSpiTrace_2* _traceSpi2 = nullptr;
+    // Read without the lock by trace_v2_printf, which every trace calls
+    // and which has nothing to do while no version "2" interface is attached.
+    std::atomic<ZefMwSpiTrace_2*> _traceSpi2{nullptr};
     // Read without the lock by every logging macro.
     std::atomic<unsigned int> _level{6};
     unsigned int _maxSize = 5242880;

@@ -58,8 +58,10 @@ void LoggingWrapper::writeLine(const char* line, size_t length, bool flush) {
         std::fflush(stderr);
         return;
     }
-    _fileSize += std::fwrite(line, 1, length, _file);
-    if (std::fputc('\n', _file) != EOF)
+    // The file is only ever written under the logger's lock, so the
+    // stream's own locking is left out.
+    _fileSize += fwrite_unlocked(line, 1, length, _file);
+    if (putc_unlocked('\n', _file) != EOF)
         ++_fileSize;
     if (flush)
         std::fflush(_file);

@@ -581,6 +581,39 @@ TEST_F(LoggingWrapperTest, LongTraceMessageIsWrittenWhole) {
     EXPECT_EQ("TR f.cpp                   :1     - dumpModel                 " + dump, withoutStamp(lines[0]));
 }
 
+TEST_F(LoggingWrapperTest, TraceFieldsLongerThanTheirWidthAreNotCut) {
+    logger()->trace_printf("/src/AVeryLongSourceFileNameOfThirtyTwo.cpp", "aFunctionWhoseNameIsLongerThan25", 1234567, 8,
+                           0, "%d items", 3);
+    logger()->trace_printf("f.cpp", "g", -12, 8, 0, "negative");
+    const std::vector<std::string> lines = logLines();
+    ASSERT_EQ(2u, lines.size());
+    EXPECT_EQ("TR AVeryLongSourceFileNameOfThirtyTwo.cpp:1234567 - aFunctionWhoseNameIsLongerThan25 3 items",
+              withoutStamp(lines[0]));
+    EXPECT_EQ("TR f.cpp                   :-12   - g                         negative", withoutStamp(lines[1]));
+}
+
+TEST_F(LoggingWrapperTest, TraceOfANullTextWritesNull) {
+    const char* volatile nothing = nullptr;
+    logger()->trace_printf("f.cpp", "f", 1, 8, 0, "%s", nothing);
+    logger()->trace_printf("f.cpp", nullptr, 2, 8, 0, "plain");
+    const std::vector<std::string> lines = logLines();
+    ASSERT_EQ(2u, lines.size());
+    EXPECT_EQ("TR f.cpp                   :1     - f                         (null)", withoutStamp(lines[0]));
+    EXPECT_EQ("TR f.cpp                   :2     - (null)                    plain", withoutStamp(lines[1]));
+}
+
+TEST_F(LoggingWrapperTest, TraceMessageIsCutAt65535Characters) {
+    const std::string huge(70000, 'h');
+    logger()->trace_printf("f.cpp", "f", 1, 8, 0, "%s", huge.c_str());
+    logger()->trace_printf("f.cpp", "f", 2, 8, 0, "<%s>", huge.c_str());
+    const std::vector<std::string> lines = logLines();
+    ASSERT_EQ(2u, lines.size());
+    const std::string prefix = "TR f.cpp                   :1     - f                         ";
+    EXPECT_EQ(prefix + std::string(65535, 'h'), withoutStamp(lines[0]));
+    const std::string second = "TR f.cpp                   :2     - f                         <" + std::string(65534, 'h');
+    EXPECT_EQ(second, withoutStamp(lines[1]));
+}
+
 TEST_F(LoggingWrapperTest, TraceKindsWriteTheSameLineToTheFile) {
     logger()->trace_printf("MyFile.cpp", "myFunction", 42, 8, 9, " >> in");
     logger()->trace_printf("MyFile.cpp", "myFunction", 43, 8, 10, " << out");
