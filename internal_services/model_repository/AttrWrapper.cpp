@@ -1,6 +1,5 @@
 #include "AttrWrapper.h"
 
-#include <sstream>
 
 #include "DdtWrapper.h"
 #include "EnumWrapper.h"
@@ -254,46 +253,49 @@ std::string typeKey(const Record* record, Builder builder)
 std::string AttrWrapper::toString() const
 {
     const std::string indent = "    ";
-    std::ostringstream out;
-    out << MrUtil::headerToStringHlp("Attribute ", _attr.generalProperties.name, indent)
-        << MrUtil::generalPropertiesToStringHlp(_attr.generalProperties, indent)
-        << indent << "Moc:               " << (_attr.moc != nullptr ? MocWrapper::getMocId(_attr.moc) : "") << '\n'
-        << indent << "Type:              " << static_cast<int>(_attr.type) << '\n';
+    // Built by appending rather than through a stream: the model dump at
+    // trace level writes every attribute of the model.
+    std::string out = MrUtil::headerToStringHlp("Attribute ", _attr.generalProperties.name, indent);
+    out.reserve(768);
+    out += MrUtil::generalPropertiesToStringHlp(_attr.generalProperties, indent);
+    MrUtil::appendDumpLineHlp(out, indent, "Moc:               ",
+                              _attr.moc != nullptr ? MocWrapper::getMocId(_attr.moc) : std::string());
+    MrUtil::appendDumpLineHlp(out, indent, "Type:              ", static_cast<long long>(_attr.type));
     switch (_attr.type) {
     case ZefMrType3Enum:
-        out << indent << "EnumDatatype:      " << typeKey(_attr.enumDatatype, EnumWrapper::getEnumId) << '\n';
+        MrUtil::appendDumpLineHlp(out, indent, "EnumDatatype:      ", typeKey(_attr.enumDatatype, EnumWrapper::getEnumId));
         break;
     case ZefMrType3Reference:
         // A reference without a named target stands for any class, and so
         // does the any-class record itself, which belongs to no MOM and so
         // has no key.
-        out << indent << "ReferencedMoc:     "
-            << (_attr.referencedMoc == nullptr || _attr.referencedMoc->generalProperties.name == nullptr
-                        || _attr.referencedMoc->mom == nullptr
-                    ? std::string("ManagedObject")
-                    : MocWrapper::getMocId(_attr.referencedMoc))
-            << '\n';
+        MrUtil::appendDumpLineHlp(out, indent, "ReferencedMoc:     ",
+                                  _attr.referencedMoc == nullptr || _attr.referencedMoc->generalProperties.name == nullptr
+                                          || _attr.referencedMoc->mom == nullptr
+                                      ? std::string("ManagedObject")
+                                      : MocWrapper::getMocId(_attr.referencedMoc));
         break;
     case ZefMrType3Derived:
-        out << indent << "DerivedDatatype:   " << typeKey(_attr.derivedDatatype, DdtWrapper::getDdtId) << '\n';
+        MrUtil::appendDumpLineHlp(out, indent, "DerivedDatatype:   ", typeKey(_attr.derivedDatatype, DdtWrapper::getDdtId));
         break;
     default:
         break;
     }
-    out << indent << "IsKey:             " << _attr.isKey << '\n'
-        << indent << "IsMandatory:       " << _attr.isMandatory << '\n'
-        << indent << "IsPersistent:      " << _attr.isPersistent << '\n'
-        << indent << "IsReadOnly:        " << _attr.isReadOnly << '\n'
-        << indent << "IsRetricted:       " << _isRestricted << '\n'
-        << indent << "IsNotifiable:  " << _isNotifiable << '\n'
-        << indent << "MultiplicityMin:   " << _attr.multiplicityRange.min << '\n'
-        << indent << "MultiplicityMax:   " << _attr.multiplicityRange.max << '\n'
-        << indent << "IsOrdered:         " << _attr.isOrdered << '\n'
-        << indent << "IsUnique:          " << _attr.isUnique << '\n'
-        << indent << "DefaultValue:      " << MrUtil::str(_attr.defaultValue) << '\n'
-        << indent << "Unit:              " << MrUtil::str(_attr.unit) << '\n'
-        << indent << "NextAttribute:     " << (_attr.next != nullptr ? getAttrId(_attr.next) : "") << '\n';
-    return out.str();
+    MrUtil::appendDumpLineHlp(out, indent, "IsKey:             ", static_cast<long long>(_attr.isKey));
+    MrUtil::appendDumpLineHlp(out, indent, "IsMandatory:       ", static_cast<long long>(_attr.isMandatory));
+    MrUtil::appendDumpLineHlp(out, indent, "IsPersistent:      ", static_cast<long long>(_attr.isPersistent));
+    MrUtil::appendDumpLineHlp(out, indent, "IsReadOnly:        ", static_cast<long long>(_attr.isReadOnly));
+    MrUtil::appendDumpLineHlp(out, indent, "IsRetricted:       ", static_cast<long long>(_isRestricted));
+    MrUtil::appendDumpLineHlp(out, indent, "IsNotifiable:  ", static_cast<long long>(_isNotifiable));
+    MrUtil::appendDumpLineHlp(out, indent, "MultiplicityMin:   ", static_cast<long long>(_attr.multiplicityRange.min));
+    MrUtil::appendDumpLineHlp(out, indent, "MultiplicityMax:   ", static_cast<long long>(_attr.multiplicityRange.max));
+    MrUtil::appendDumpLineHlp(out, indent, "IsOrdered:         ", static_cast<long long>(_attr.isOrdered));
+    MrUtil::appendDumpLineHlp(out, indent, "IsUnique:          ", static_cast<long long>(_attr.isUnique));
+    MrUtil::appendDumpLineHlp(out, indent, "DefaultValue:      ", _attr.defaultValue);
+    MrUtil::appendDumpLineHlp(out, indent, "Unit:              ", _attr.unit);
+    MrUtil::appendDumpLineHlp(out, indent, "NextAttribute:     ",
+                              _attr.next != nullptr ? getAttrId(_attr.next) : std::string());
+    return out;
 }
 
 } // namespace ZefModelRepositoryService

@@ -1,7 +1,6 @@
 #include "MocWrapper.h"
 
 #include <algorithm>
-#include <sstream>
 
 #include "AttrWrapper.h"
 #include "BiDirAssociationWrapper.h"
@@ -264,27 +263,31 @@ std::string MocWrapper::getParentContId() const
 
 std::string MocWrapper::toString() const
 {
-    std::ostringstream out;
-    out << "-- Moc (" << MrUtil::str(_moc.generalProperties.name) << ")--\n"
-        << MrUtil::generalPropertiesToStringHlp(_moc.generalProperties, "")
-        << "IsReadOnly:        " << _moc.isReadOnly << '\n'
-        << "Mom:               " << (_moc.mom != nullptr ? getMomId() : std::string()) << '\n'
-        << "IsRoot:            " << _moc.isRoot << '\n'
-        << "Constraint:        " << MrUtil::str(_moc.constraint) << '\n';
+    // Built by appending rather than through a stream: the model dump at
+    // trace level writes every class with all its attributes.
+    std::string out = "-- Moc (";
+    out += MrUtil::str(_moc.generalProperties.name);
+    out += ")--\n";
+    out += MrUtil::generalPropertiesToStringHlp(_moc.generalProperties, "");
+    const std::string noIndent;
+    MrUtil::appendDumpLineHlp(out, noIndent, "IsReadOnly:        ", static_cast<long long>(_moc.isReadOnly));
+    MrUtil::appendDumpLineHlp(out, noIndent, "Mom:               ", _moc.mom != nullptr ? getMomId() : std::string());
+    MrUtil::appendDumpLineHlp(out, noIndent, "IsRoot:            ", static_cast<long long>(_moc.isRoot));
+    MrUtil::appendDumpLineHlp(out, noIndent, "Constraint:        ", _moc.constraint);
     if (_moc.childContainment != nullptr) {
-        out << "ChildContainment:  " << getChildContId() << '\n';
+        MrUtil::appendDumpLineHlp(out, noIndent, "ChildContainment:  ", getChildContId());
     } else {
-        out << "ChildContainment:  null\n";
+        out += "ChildContainment:  null\n";
     }
     if (_moc.parentContainment != nullptr) {
-        out << "ParentContainment: " << getParentContId() << '\n';
+        MrUtil::appendDumpLineHlp(out, noIndent, "ParentContainment: ", getParentContId());
     } else {
-        out << "parentContainment: null\n";
+        out += "parentContainment: null\n";
     }
     for (const AttrWrapper* attr : _attrs) {
-        out << attr->toString();
+        out += attr->toString();
     }
-    return out.str();
+    return out;
 }
 
 } // namespace ZefModelRepositoryService

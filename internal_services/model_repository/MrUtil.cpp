@@ -1,6 +1,7 @@
 #include "MrUtil.h"
 
 #include <cfloat>
+#include <cstdio>
 #include <cstring>
 
 #include "ZefLog.h"
@@ -139,30 +140,66 @@ std::string str(const char* text)
 
 std::string headerToStringHlp(const std::string& kind, const char* name, const std::string& indent)
 {
-    return indent + "-- " + kind + "(" + str(name) + ") --\n";
+    std::string out;
+    out.reserve(indent.size() + kind.size() + 16 + (name != nullptr ? std::strlen(name) : 0));
+    out += indent;
+    out += "-- ";
+    out += kind;
+    out += '(';
+    out += name != nullptr ? name : "";
+    out += ") --\n";
+    return out;
+}
+
+void appendDumpLineHlp(std::string& out, const std::string& indent, const char* label, const std::string& value)
+{
+    out += indent;
+    out += label;
+    out += value;
+    out += '\n';
+}
+
+void appendDumpLineHlp(std::string& out, const std::string& indent, const char* label, const char* value)
+{
+    out += indent;
+    out += label;
+    out += value != nullptr ? value : "";
+    out += '\n';
+}
+
+void appendDumpLineHlp(std::string& out, const std::string& indent, const char* label, long long value)
+{
+    char digits[24];
+    const int length = std::snprintf(digits, sizeof(digits), "%lld", value);
+    out += indent;
+    out += label;
+    out.append(digits, static_cast<size_t>(length));
+    out += '\n';
 }
 
 std::string generalPropertiesToStringHlp(const ZefOamSpiGeneralProperties& gp, const std::string& indent)
 {
-    std::ostringstream out;
-    out << indent << "Name:              " << str(gp.name) << '\n'
-        << indent << "Description:       " << str(gp.description) << '\n'
-        << indent << "Specification:     " << str(gp.specification) << '\n'
-        << indent << "Status:            " << static_cast<int>(gp.status) << '\n'
-        << indent << "Hidden:            " << str(gp.hidden) << '\n';
-    return out.str();
+    std::string out;
+    out.reserve(5 * (indent.size() + 20) + 64);
+    appendDumpLineHlp(out, indent, "Name:              ", gp.name);
+    appendDumpLineHlp(out, indent, "Description:       ", gp.description);
+    appendDumpLineHlp(out, indent, "Specification:     ", gp.specification);
+    appendDumpLineHlp(out, indent, "Status:            ", static_cast<long long>(gp.status));
+    appendDumpLineHlp(out, indent, "Hidden:            ", gp.hidden);
+    return out;
 }
 
 std::string datatypeContainerToStringHlp(const ZefOamSpiDatatypeContainer& container, const std::string& indent)
 {
-    std::ostringstream out;
-    out << indent << "Type:              " << static_cast<int>(container.type) << '\n'
-        << indent << "DefaultValue:      " << str(container.defaultValue) << '\n'
-        << indent << "MultiplicityMin:   " << container.multiplicityRange.min << '\n'
-        << indent << "MultiplicityMax:   " << container.multiplicityRange.max << '\n'
-        << indent << "IsOrdered:         " << container.isOrdered << '\n'
-        << indent << "IsUnique:          " << container.isUnique << '\n';
-    return out.str();
+    std::string out;
+    out.reserve(6 * (indent.size() + 20) + 32);
+    appendDumpLineHlp(out, indent, "Type:              ", static_cast<long long>(container.type));
+    appendDumpLineHlp(out, indent, "DefaultValue:      ", container.defaultValue);
+    appendDumpLineHlp(out, indent, "MultiplicityMin:   ", static_cast<long long>(container.multiplicityRange.min));
+    appendDumpLineHlp(out, indent, "MultiplicityMax:   ", static_cast<long long>(container.multiplicityRange.max));
+    appendDumpLineHlp(out, indent, "IsOrdered:         ", static_cast<long long>(container.isOrdered));
+    appendDumpLineHlp(out, indent, "IsUnique:          ", static_cast<long long>(container.isUnique));
+    return out;
 }
 
 std::string typeName(int typeCode)

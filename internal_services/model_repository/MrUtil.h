@@ -150,6 +150,13 @@ std::string generalPropertiesToStringHlp(const ZefOamSpiGeneralProperties& gp, c
 /// The data type lines of a container, beginning with the type code: Type,
 /// DefaultValue, MultiplicityMin, MultiplicityMax, IsOrdered, IsUnique.
 std::string datatypeContainerToStringHlp(const ZefOamSpiDatatypeContainer& container, const std::string& indent);
+/// Appends one dump line to `out`: indent, label, value, newline. A null
+/// text appends as nothing, a number (flags as 0 and 1) in base 10 - as a
+/// stream writes them. The dumps are built by appending, as the model dump
+/// at trace level writes every record.
+void appendDumpLineHlp(std::string& out, const std::string& indent, const char* label, const std::string& value);
+void appendDumpLineHlp(std::string& out, const std::string& indent, const char* label, const char* value);
+void appendDumpLineHlp(std::string& out, const std::string& indent, const char* label, long long value);
 
 /// Name of a type code as the dumps print it ("INT8" ... "VOID", "DOUBLE"
 /// for 16); an empty name for 0 and unknown codes.

@@ -355,6 +355,23 @@ TEST(MrUtilTest, DatatypeContainerDump)
     MrUtil::cleanDatatypeContainerHlp(c);
 }
 
+TEST(MrUtilTest, DumpLines)
+{
+    std::string out = "x\n";
+    MrUtil::appendDumpLineHlp(out, "  ", "Text:   ", std::string("t"));
+    MrUtil::appendDumpLineHlp(out, "  ", "Chars:  ", "c");
+    MrUtil::appendDumpLineHlp(out, "", "Null:   ", static_cast<const char*>(nullptr));
+    MrUtil::appendDumpLineHlp(out, "", "Number: ", -32768LL);
+    MrUtil::appendDumpLineHlp(out, "", "Flag:   ", static_cast<long long>(true));
+    EXPECT_EQ("x\n"
+              "  Text:   t\n"
+              "  Chars:  c\n"
+              "Null:   \n"
+              "Number: -32768\n"
+              "Flag:   1\n",
+              out);
+}
+
 TEST(MrUtilTest, TypeNames)
 {
     const char* expected[] = {"",       "INT8",   "INT16",   "INT32",  "INT64", "UINT8",
