@@ -9,7 +9,6 @@
 #include <Poco/DOM/Element.h>
 #include <Poco/DOM/NamedNodeMap.h>
 #include <Poco/DOM/Node.h>
-#include <Poco/DOM/NodeList.h>
 #include <Poco/String.h>
 
 #include "DdtWrapper.h"
@@ -35,6 +34,33 @@ const char* const kWrongFormat = "Configuration File does not have the correct f
 const char* const kMomNotLoaded = "Mom not loaded:";
 
 bool isElement(const Node& node) { return node.nodeType() == Node::ELEMENT_NODE; }
+
+/// The number of elements named `name` below `root`, in document order
+/// (as getElementsByTagName lists them), and the first of them in `first`.
+/// Counted in one walk: a node list walks the whole document to tell its
+/// length and again to hand out its first item.
+unsigned long elementsNamed(Node* root, const std::string& name, Node*& first) {
+    unsigned long count = 0;
+    first = nullptr;
+    Node* node = root != nullptr ? root->firstChild() : nullptr;
+    while (node != nullptr) {
+        if (isElement(*node) && node->nodeName() == name) {
+            if (first == nullptr) {
+                first = node;
+            }
+            ++count;
+        }
+        if (Node* child = node->firstChild()) {
+            node = child;
+            continue;
+        }
+        while (node != root && node->nextSibling() == nullptr) {
+            node = node->parentNode();
+        }
+        node = node != root ? node->nextSibling() : nullptr;
+    }
+    return count;
+}
 
 // The formats of the warnings about a value the MOM record refused: the
 // attribute or element name and the mim node's name.
@@ -116,10 +142,11 @@ int ModelParser::parse(const std::string& fileName) {
     ZEF_TRACE("Parsing file '%s'", fileName.c_str());
 
     Zef::ZefConfiguration document;
-    Poco::AutoPtr<Poco::XML::NodeList> models;
+    Node* models = nullptr;
+    unsigned long modelsCount = 0;
     try {
         document.load(fileName);
-        models = document.getElementsByTagName("models");
+        modelsCount = elementsNamed(document.getDocument(), "models", models);
     } catch (const Zef::ZefException& e) {
         ZEF_LOG_ERROR("Error in the Model");
         ZEF_TRACE("%s", e.what());
@@ -131,13 +158,13 @@ int ModelParser::parse(const std::string& fileName) {
 
     // A document that is not a model file at all is the caller's problem,
     // not a finding in the model: this one escapes on purpose.
-    if (models.isNull() || models->length() != 1) {
+    if (document.getDocument() == nullptr || modelsCount != 1) {
         ZEF_LOG_ERROR("%s", kWrongFormat);
         throw Zef::ZefInternalErrorException(std::string(kWrongFormat));
     }
 
     try {
-        processModelsNode(*models->item(0), fileName);
+        processModelsNode(*models, fileName);
     } catch (const Zef::ZefException& e) {
         ZEF_LOG_ERROR("Error in the Model");
         ZEF_TRACE("%s", e.what());
@@ -302,6 +329,10 @@ void ModelParser::handleModelFeatures(Node* modelFeatures, MomWrapper* mom) {
 
 std::vector<Poco::XML::Attr*> ModelParser::attributesOf(Node& node) {
     std::vector<Attr*> result;
+    // Most elements of a model carry no attribute: they need no map.
+    if (!node.hasAttributes()) {
+        return result;
+    }
     // attributes() hands out a new map (null for non-elements); the holder
     // releases it, the attributes themselves stay with their element.
     Poco::AutoPtr<Poco::XML::NamedNodeMap> attributes(node.attributes());

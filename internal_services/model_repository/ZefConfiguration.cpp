@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <vector>
 
 #include <Poco/DOM/DOMParser.h>
 #include <Poco/Exception.h>
@@ -44,10 +43,19 @@ std::string readFile(const std::string& name) {
     if (fd < 0) {
         throw ZefException(name + " is not readable");
     }
+    // Read straight into a buffer of the file's size, in as few calls as it
+    // takes; a file that turns out longer grows the buffer block by block.
     std::string content;
-    std::vector<char> block(kReadBlockSize);
+    struct stat st;
+    if (::fstat(fd, &st) == 0 && st.st_size > 0) {
+        content.resize(static_cast<size_t>(st.st_size));
+    }
+    size_t filled = 0;
     for (;;) {
-        ssize_t n = ::read(fd, block.data(), block.size());
+        if (filled == content.size()) {
+            content.resize(content.size() + kReadBlockSize);
+        }
+        ssize_t n = ::read(fd, &content[filled], content.size() - filled);
         if (n < 0 && errno == EINTR) {
             continue;
         }
@@ -58,9 +66,10 @@ std::string readFile(const std::string& name) {
         if (n == 0) {
             break;
         }
-        content.append(block.data(), static_cast<size_t>(n));
+        filled += static_cast<size_t>(n);
     }
     ::close(fd);
+    content.resize(filled);
     return content;
 }
 

@@ -7,6 +7,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <getopt.h>
+#include <malloc.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -348,6 +349,14 @@ int run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+#ifdef M_MXFAST
+    // The records of the model stay for the whole run while one document
+    // after another is built and released among them. Fast bins would keep
+    // the freed nodes of each document apart and merge them later in passes
+    // over the whole, ever larger heap; without them a freed block is
+    // merged with its free neighbours at once.
+    mallopt(M_MXFAST, 0);
+#endif
     int exitCode;
     try {
         exitCode = run(argc, argv);

@@ -60,6 +60,25 @@ TEST_F(ModelParserTest, DocumentWithoutModelsRaisesWrongFormat) {
     EXPECT_TRUE(repository.getMomList().empty());
 }
 
+TEST_F(ModelParserTest, ModelsElementsAreCountedAtAnyDepth) {
+    // A second "models" deep inside the first makes two, as a list of the
+    // document's elements by name holds them.
+    try {
+        parseXml("<models><mim name=\"M\" version=\"1\"><description><models/></description></mim></models>");
+        FAIL() << "no exception";
+    } catch (const Zef::ZefInternalErrorException& e) {
+        EXPECT_EQ("Configuration File does not have the correct format", e.getReason());
+    }
+    EXPECT_EQ(std::vector<std::string>{"Configuration File does not have the correct format"}, loggedErrors());
+    EXPECT_TRUE(repository.getMomList().empty());
+}
+
+TEST_F(ModelParserTest, TheOnlyModelsElementMayBeDeepInTheDocument) {
+    EXPECT_EQ(0, parseXml("<root><!-- c --><a/><b><models><mim name=\"M\" version=\"1\"/></models></b></root>"));
+    EXPECT_NE(nullptr, findMom("M~1"));
+    EXPECT_TRUE(logged(" >> Processing models: models."));
+}
+
 TEST_F(ModelParserTest, MalformedDocumentEndsParseWithMinusOne) {
     EXPECT_EQ(-1, parseXml("<models><mim></models>"));
     EXPECT_EQ(std::vector<std::string>{"Error in the Model"}, loggedErrors());
