@@ -18,6 +18,7 @@
 #include "ModelRepository.h"
 #include "MomWrapper.h"
 #include "MrUtil.h"
+#include "RecordFiling.h"
 #include "StructWrapper.h"
 #include "ZefConfiguration.h"
 #include "ZefException.h"
@@ -103,24 +104,6 @@ MomSetter findMomSetter(const std::string& attributeName) {
         }
     }
     return nullptr;
-}
-
-// Hands a record produced by a child handler to the repository; a record the
-// repository refuses stays ours and is deleted by the holder. A null record
-// (refused by its handler) is not handed over at all. The holder also deletes
-// the record when the repository throws on its refusal (outside standalone
-// mode).
-template <typename T, typename Discard>
-bool addToRepository(std::unique_ptr<T, Discard> holder, ZefReturnT (ModelRepository::*add)(T*),
-                     ModelRepository& repository) {
-    if (!holder) {
-        return false;
-    }
-    if ((repository.*add)(holder.get()) != ZefOk) {
-        return false;
-    }
-    holder.release();
-    return true;
 }
 
 template <typename T>
@@ -242,7 +225,7 @@ MomWrapper* ModelParser::processMomNode(Node& mim, const std::string& fileName) 
 
     // The MOM is registered before its children: they refer to it.
     MomWrapper* mom = holder.get();
-    if (!addToRepository(std::move(holder), &ModelRepository::addMom, *_repository)) {
+    if (!fileRecord(std::move(holder), &ModelRepository::addMom, *_repository)) {
         return nullptr;
     }
 
@@ -254,14 +237,14 @@ MomWrapper* ModelParser::processMomNode(Node& mim, const std::string& fileName) 
         }
         const std::string& name = child->nodeName();
         if (name == "class") {
-            addToRepository(std::unique_ptr<MocWrapper, void (*)(MocWrapper*)>(processMocNode(*child, *mom), &discardMoc),
-                            &ModelRepository::addMoc, *_repository);
+            fileAndPublish(std::unique_ptr<MocWrapper, void (*)(MocWrapper*)>(processMocNode(*child, *mom), &discardMoc),
+                           &ModelRepository::addMoc, *_repository);
         } else if (name == "enum") {
-            addToRepository(hold(processEnumNode(*child, *mom)), &ModelRepository::addEnum, *_repository);
+            fileAndPublish(hold(processEnumNode(*child, *mom)), &ModelRepository::addEnum, *_repository);
         } else if (name == "derivedDataType") {
-            addToRepository(hold(processDdtNode(*child, *mom)), &ModelRepository::addDdt, *_repository);
+            fileAndPublish(hold(processDdtNode(*child, *mom)), &ModelRepository::addDdt, *_repository);
         } else if (name == "struct") {
-            if (!addToRepository(hold(processStructNode(child, mom)), &ModelRepository::addStruct, *_repository)) {
+            if (!fileAndPublish(hold(processStructNode(child, mom)), &ModelRepository::addStruct, *_repository)) {
                 checkThrowException(3, "Failed to process a struct for the mom(%s).", mom->getId().c_str());
             }
         } else if (name == "relationship") {
@@ -284,13 +267,10 @@ MomWrapper* ModelParser::processMomNode(Node& mim, const std::string& fileName) 
         }
     }
 
-    publishMom(*mom);
+    // Published only now: its domain extensions are among the children.
+    If2Publisher::publish(*mom);
     ZEF_TRACE_LEAVE(" << Processed mim: %s.", properties.getName().c_str());
     return mom;
-}
-
-void ModelParser::publishMom(MomWrapper& /*mom*/) {
-    // query-interface object created here once the interface objects exist
 }
 
 void ModelParser::handleModelFeatures(Node* modelFeatures, MomWrapper* mom) {

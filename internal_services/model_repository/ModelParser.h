@@ -178,37 +178,17 @@ private:
     /// and hands it to the repository as a finding of "ModelParser".
     void vcheckThrowException(unsigned short level, const char* format, va_list args)
         __attribute__((format(printf, 3, 0)));
-    /// Makes a MOM reachable through the query interface.
-    void publishMom(MomWrapper& mom);
 
     // ---- classes and their members (ModelParserClasses.cpp) -----------------
 
-    /// Makes a class reachable through the query interface.
-    void publishMoc(MocWrapper& moc);
     /// Deletes a class that no registry holds, with the attributes and
     /// actions it lists (once a class is registered they belong to the
     /// repository; before that nobody else knows them).
     static void discardMoc(MocWrapper* moc);
-    /// Makes an action reachable through the query interface.
-    void publishAction(MoActionWrapper& action);
     /// Reads one child element of a class; `mocName` names it in findings.
     void processMocChild(Node& child, MocWrapper& moc, const std::string& mocName);
     /// Reads one child element of an attribute.
     void processAttrChild(Node& child, AttrWrapper& attr, const std::string& attrName);
-
-    // ---- data types (ModelParserDataTypes.cpp) ------------------------------
-
-    /// Makes a derived type and its ranges reachable through the query
-    /// interface.
-    void publishDdt(DdtWrapper& ddt);
-
-    // ---- relationships (ModelParserRelationships.cpp) -----------------------
-
-    /// Make an association end and the two kinds of association reachable
-    /// through the query interface.
-    void publishAssociationEnd(AssociationEndWrapper& end);
-    void publishBidir(BiDirAssociationWrapper& assoc);
-    void publishUnidir(UniDirAssociationWrapper& assoc);
 
     ModelRepository* _repository;
     bool _standalone = false;

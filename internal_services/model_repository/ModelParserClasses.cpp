@@ -100,8 +100,9 @@ MocWrapper* ModelParser::processMocNode(Node& classElement, MomWrapper& mom) {
         }
     }
 
+    // The class with its attributes and actions becomes reachable through
+    // the query interface once the repository has accepted it.
     mom.setHasMocs(true);
-    publishMoc(*moc);
     ZEF_TRACE_LEAVE(" << Processed class: %s.", mocName.c_str());
     return moc.release();
 }
@@ -174,10 +175,6 @@ void ModelParser::discardMoc(MocWrapper* moc) {
         delete action;
     }
     delete moc;
-}
-
-void ModelParser::publishMoc(MocWrapper& /*moc*/) {
-    // query-interface object created here once the interface objects exist
 }
 
 void ModelParser::processMocValidationRules(const std::string& mocName, Node& validationRules, MocWrapper& moc) {
@@ -346,14 +343,9 @@ MoActionWrapper* ModelParser::processActionNode(Node& actionElement, MocWrapper&
         checkThrowException(4, "The action %s is missing returnType", actionName.c_str());
     }
 
-    publishAction(*action);
     // The attribute's closing text is the established trace of an action too.
     ZEF_TRACE_LEAVE(" << Processed attribute: %s.", actionName.c_str());
     return action.release();
-}
-
-void ModelParser::publishAction(MoActionWrapper& /*action*/) {
-    // query-interface object created here once the interface objects exist
 }
 
 void ModelParser::handleReturnType(Node* returnType, MoActionWrapper* action) {

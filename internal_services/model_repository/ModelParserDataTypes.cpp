@@ -310,14 +310,10 @@ DdtWrapper* ModelParser::processDdtNode(Node& derivedDataType, MomWrapper& mom) 
         }
     }
 
+    // Published with its ranges once the repository has accepted it.
     ddt->updateV1stringRestrictionLength();
-    publishDdt(*ddt);
     ZEF_TRACE_LEAVE(" << Processed derived datatype: %s.", ddtName.c_str());
     return ddt.release();
-}
-
-void ModelParser::publishDdt(DdtWrapper& /*ddt*/) {
-    // query-interface object created here once the interface objects exist
 }
 
 void ModelParser::handleIntDataType(Node& type, DdtWrapper& ddt) { readNumericRestrictions(*this, type, ddt, false); }

@@ -13,6 +13,7 @@
 #include "GeneralPropertiesWrapper.h"
 #include "MocWrapper.h"
 #include "ModelRepository.h"
+#include "RecordFiling.h"
 #include "MomWrapper.h"
 #include "UniDirAssociationWrapper.h"
 #include "ZefLog.h"
@@ -42,15 +43,6 @@ const char* relationshipStatusFailure(const std::string& word) {
         return "Failed to set type (obsolate) of the cont (%s).";
     }
     return "Failed to set type (priliminary) of the cont (%s).";
-}
-
-// Hands a record to the repository; a refused record stays ours and is
-// deleted, also when the repository throws on its refusal.
-template <typename T>
-void addToRepository(std::unique_ptr<T> record, ZefReturnT (ModelRepository::*add)(T*), ModelRepository& repository) {
-    if ((repository.*add)(record.get()) == ZefOk) {
-        record.release();
-    }
 }
 
 // Reads a "cardinality" element: both bounds are required, and with only
@@ -171,18 +163,16 @@ void ModelParser::processRelationshipNode(Node& relationship, MomWrapper& mom) {
         }
         const std::string& name = child->nodeName();
         if (name == "containment") {
-            addToRepository(std::unique_ptr<ContWrapper>(processContNode(relationship, *child, mom)),
-                            &ModelRepository::addCont, *_repository);
+            fileAndPublish(std::unique_ptr<ContWrapper>(processContNode(relationship, *child, mom)),
+                           &ModelRepository::addCont, *_repository);
         } else if (name == "biDirectionalAssociation") {
             std::unique_ptr<BiDirAssociationWrapper> assoc(new BiDirAssociationWrapper());
             processDirectionalAssocNode(relationship, *child, mom, *assoc);
-            publishBidir(*assoc);
-            addToRepository(std::move(assoc), &ModelRepository::addBidir, *_repository);
+            fileAndPublish(std::move(assoc), &ModelRepository::addBidir, *_repository);
         } else if (name == "uniDirectionalAssociation") {
             std::unique_ptr<UniDirAssociationWrapper> assoc(new UniDirAssociationWrapper());
             processDirectionalAssocNode(relationship, *child, mom, *assoc);
-            publishUnidir(*assoc);
-            addToRepository(std::move(assoc), &ModelRepository::addUnidir, *_repository);
+            fileAndPublish(std::move(assoc), &ModelRepository::addUnidir, *_repository);
         }
     }
     ZEF_TRACE_LEAVE(" << Processed relationship: %s.", nameAttributeOf(relationship).c_str());
@@ -330,7 +320,7 @@ void ModelParser::processInterMimNode(Node& interMim) {
             checkThrowException(4, "Relationship (%s) has no containment.", contName.c_str());
             continue;
         }
-        addToRepository(std::move(cont), &ModelRepository::addCont, *_repository);
+        fileAndPublish(std::move(cont), &ModelRepository::addCont, *_repository);
     }
     ZEF_TRACE_LEAVE(" << Processed Intermim: %s.", interMim.nodeName().c_str());
 }
@@ -396,7 +386,7 @@ void ModelParser::handleBidirAssociation(Node& body, MomWrapper& mom, BiDirAssoc
                 3, "second Association end (%s) associated name is already set for bidirectional association. (%s).",
                 endName.c_str(), assocName.c_str());
         }
-        addToRepository(std::move(end), &ModelRepository::addAssocEnd, *_repository);
+        fileAndPublish(std::move(end), &ModelRepository::addAssocEnd, *_repository);
     }
 }
 
@@ -448,7 +438,7 @@ void ModelParser::handleUnidirAssociation(Node& body, MomWrapper& mom, UniDirAss
                 checkThrowException(3, "Invalid name for Association end (%s), unidir association end id not set  (%s).",
                                     endName.c_str(), assocName.c_str());
             }
-            addToRepository(std::move(end), &ModelRepository::addAssocEnd, *_repository);
+            fileAndPublish(std::move(end), &ModelRepository::addAssocEnd, *_repository);
         } else if (name == "isExternal") {
             if (unidir.setIsExternal() != ZefOk) {
                 checkThrowException(4, "Failed to set isExternal for unidir (%s).", assocName.c_str());
@@ -529,19 +519,6 @@ void ModelParser::handleAssociationEnd(Node& end, AssociationEndWrapper& record)
             ignoreUnknownElementLog(*child);
         }
     }
-    publishAssociationEnd(record);
-}
-
-void ModelParser::publishAssociationEnd(AssociationEndWrapper& /*end*/) {
-    // query-interface object created here once the interface objects exist
-}
-
-void ModelParser::publishBidir(BiDirAssociationWrapper& /*assoc*/) {
-    // query-interface object created here once the interface objects exist
-}
-
-void ModelParser::publishUnidir(UniDirAssociationWrapper& /*assoc*/) {
-    // query-interface object created here once the interface objects exist
 }
 
 } // namespace ZefModelRepositoryService

@@ -10,6 +10,8 @@
 #include "DdtWrapper.h"
 #include "DnUtil.h"
 #include "EnumWrapper.h"
+#include "If2Manager.h"
+#include "If2Publisher.h"
 #include "MoActionWrapper.h"
 #include "MomWrapper.h"
 #include "RefId.h"
@@ -34,9 +36,24 @@ std::string nameOf(const ZefOamSpiGeneralProperties& gp) { return textOf(gp.name
 ModelRepository::ModelRepository() {
     std::memset(_messageBuffer, 0, sizeof(_messageBuffer));
     _anyClassMoc.setName(kAnyClassName);
+    // A reference to any class hands out this record through the query
+    // interface like any other class.
+    If2Publisher::publish(_anyClassMoc);
 }
 
-ModelRepository::~ModelRepository() { cleanup(); }
+ModelRepository::~ModelRepository() {
+    cleanup();
+    // The any-class record dies with the repository: withdraw its object.
+    If2Manager::instance().cleanup();
+}
+
+const ZefOamSpiModelRepository_2* ModelRepository::getIf2() const { return If2Manager::instance().getIf2(); }
+
+const ZefOamSpiModelRepository_3* ModelRepository::getIf3() const { return If2Manager::instance().getIf3(); }
+
+const ZefOamSpiModelRepository_4* ModelRepository::getIf4() const { return If2Manager::instance().getIf4(); }
+
+const ZefOamSpiModelRepository_4_1* ModelRepository::getIf4_1() const { return If2Manager::instance().getIf4_1(); }
 
 // ---- findings --------------------------------------------------------------
 
@@ -518,6 +535,9 @@ void ModelRepository::dumpModel() {
 
 void ModelRepository::cleanup() {
     ZEF_TRACE_ENTER(" >> ");
+    // No interface object may outlive the record it reads: withdraw them
+    // first, so no handle reaches a record being destroyed.
+    If2Manager::instance().cleanup();
     for (MomWrapper* mom : _moms) {
         delete mom;
     }
@@ -550,6 +570,8 @@ void ModelRepository::cleanup() {
     _momsByName.clear();
     _momsByNameValid = false;
     _patterns.clear();
+    // The any-class record lives as long as the repository.
+    If2Publisher::publish(_anyClassMoc);
     ZEF_TRACE_LEAVE(" << ");
 }
 

@@ -12,6 +12,10 @@
 
 #include "MocWrapper.h"
 #include "PatternCache.h"
+#include "ZefOamSpiModelRepository_2.h"
+#include "ZefOamSpiModelRepository_3.h"
+#include "ZefOamSpiModelRepository_4.h"
+#include "ZefOamSpiModelRepository_4_1.h"
 #include "ZefOamSpiMrTypes.h"
 #include "ZefReturn.h"
 
@@ -128,9 +132,20 @@ public:
     const std::vector<MocWrapper*>& mocsNamed(const std::string& mocName);
     /// Writes every record's dump to the trace.
     void dumpModel();
-    /// Destroys every record and empties the registries; keeps the message
-    /// list, the modelling-standard name map, the flags and the any-class MOC.
+    /// Destroys every record and its query interface object and empties the
+    /// registries; keeps the message list, the modelling-standard name map,
+    /// the flags and the any-class MOC (which stays published).
     void cleanup();
+
+    // ---- query interface ---------------------------------------------------
+
+    /// The function tables of the query interface versions "2", "3", "4" and
+    /// "4_1", through which readers outside the repository (plug-ins, other
+    /// components) read the published records. Never null.
+    const ZefOamSpiModelRepository_2* getIf2() const;
+    const ZefOamSpiModelRepository_3* getIf3() const;
+    const ZefOamSpiModelRepository_4* getIf4() const;
+    const ZefOamSpiModelRepository_4_1* getIf4_1() const;
 
     // ---- compilation (ModelRepositoryCompile.cpp) ---------------------------
 
