@@ -338,6 +338,13 @@ int run(int argc, char** argv) {
         }
         exitCode = printSummary(service, options.quiet);
 
+        // The plug-ins check the model the repository compiled; a failing
+        // one decides the exit status whatever the summary found.
+        const ZefOamSpiModelRepository_4* modelIf4 = service.getModelRepository()->getIf4();
+        if (modelIf4 != nullptr && haveStaticValidators() && !runStaticValidators(modelIf4, options.quiet)) {
+            exitCode = -9;
+        }
+
         if (!options.quiet) {
             printLine("!See '" + logFileName() + "' for more info.");
         }

@@ -41,6 +41,22 @@ bool collectPaths(const std::string& text, std::list<std::string>& paths) {
     }
 }
 
+// The loader searches its library folders for a name without a slash; the
+// user named a file that was just checked in the working folder, so that
+// file is the one to load.
+std::string loaderPath(const std::string& path) {
+    return path.find('/') == std::string::npos ? "./" + path : path;
+}
+
+void printNotAValidator(const std::string& path) {
+    printLine("WARNING:");
+    printLine("    File  \"" + path + "\" is not a static validator and was ignored.");
+}
+
+// The texts of a plug-in's record; a missing one reads as empty rather than
+// ending the run.
+const char* textOf(const char* text) { return text != nullptr ? text : ""; }
+
 } // namespace
 
 bool loadLibraries(const char* pathList) {
@@ -55,7 +71,7 @@ bool loadLibraries(const char* pathList) {
     }
     for (const std::string& path : paths) {
         dlerror();
-        void* handle = dlopen(path.c_str(), RTLD_LAZY);
+        void* handle = dlopen(loaderPath(path).c_str(), RTLD_LAZY);
         if (handle == nullptr) {
             const char* err = dlerror();
             printLine("Failed to open '" + path + "': error (" + (err != nullptr ? err : "") + ")");
@@ -66,13 +82,18 @@ bool loadLibraries(const char* pathList) {
         void* entry = dlsym(handle, ZEF_STATIC_VALIDATOR_ENTRY_SYMBOL);
         if (entry == nullptr) {
             // The library stays loaded but is not a checker: say so and go on.
-            printLine("WARNING:");
-            printLine("    File  \"" + path + "\" is not a static validator and was ignored.");
+            printNotAValidator(path);
             continue;
         }
         ZefOamApiGetStaticValidatorInterfaceFn getInterface =
             reinterpret_cast<ZefOamApiGetStaticValidatorInterfaceFn>(entry);
-        _ifList.push_back(getInterface());
+        const ZefOamApiStaticValidatorInterface_1* validator = getInterface();
+        if (validator == nullptr || validator->check == nullptr) {
+            // Nothing to call: treated like a library without the entry.
+            printNotAValidator(path);
+            continue;
+        }
+        _ifList.push_back(validator);
         _libList.push_back(handle);
     }
     return true;
@@ -96,22 +117,19 @@ bool runStaticValidators(const struct ZefOamSpiModelRepository_4* modelIf4, bool
     bool allPassed = true;
     for (const ZefOamApiStaticValidatorInterface_1* validator : _ifList) {
         const char* result = nullptr;
-        int ok = validator->check(modelIf4, &result);
-        std::string who = std::string(validator->name) + "(" + validator->version + ")";
+        const int ok = validator->check(modelIf4, &result);
+        const char* name = textOf(validator->name);
+        const char* version = textOf(validator->version);
+        const std::string who = std::string(name) + "(" + version + ")";
+        // A plug-in that leaves its result unset has nothing to add.
+        const char* text = textOf(result);
         if (ok == 0) {
             printLine("    Results of checking dependenciesScripts:");
             printLine(who + " - Validation of model failed: ");
-            printLine(result != nullptr ? result : "");
-            ZEF_TRACE("%s(%s) - Validation result: %s", validator->name, validator->version,
-                      result != nullptr ? result : "");
-            validator->finish();
+            printLine(text);
+            ZEF_TRACE("%s(%s) - Validation result: %s", name, version, text);
             allPassed = false;
-            continue;
-        }
-        // A passing plug-in must set its result text; an empty text means
-        // it has nothing to add.
-        const char* text = result != nullptr ? result : "";
-        if (text[0] == '\0') {
+        } else if (text[0] == '\0') {
             if (!quiet) {
                 printLine("    Results of checking dependenciesScripts:");
                 printLine(who + " - Validation of model succeeded");
@@ -122,9 +140,11 @@ bool runStaticValidators(const struct ZefOamSpiModelRepository_4* modelIf4, bool
                 printLine(who + " - Validation of model succeeded, but with information: ");
                 printLine(text);
             }
-            ZEF_TRACE("%s(%s) - Validation result: %s", validator->name, validator->version, text);
+            ZEF_TRACE("%s(%s) - Validation result: %s", name, version, text);
         }
-        validator->finish();
+        if (validator->finish != nullptr) {
+            validator->finish();
+        }
     }
     return allPassed;
 }

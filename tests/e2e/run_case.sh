@@ -16,6 +16,7 @@
 #   log_lacks         lines none of which may occur in the log file (optional)
 #   log_file          the log path when the case moves it (optional; default @LOG@)
 #   check.sh          run with bash in the run folder afterwards; non-zero fails (optional)
+# setup.sh and check.sh see the build folder as $E2E_BUILD.
 # Placeholders in every file: @WORK@ the run folder, @LOG@ the default log
 # path (@WORK@/validator.log), @BUILD@ the build folder.
 set -u
@@ -60,6 +61,8 @@ if [[ -f "$case_dir/env" ]]; then
 fi
 
 cd "$run" || exit 1
+# setup.sh and check.sh find the build folder (plug-ins, tools) here.
+export E2E_BUILD="$build"
 if [[ -f "$case_dir/setup.sh" ]]; then
     bash "$case_dir/setup.sh" || { echo "setup.sh failed"; exit 1; }
 fi

@@ -1,0 +1,1 @@
+cp "$E2E_BUILD"/plugins/informing_plugin.so informing.so
