@@ -168,6 +168,40 @@ TEST_F(ModelRepositoryServiceComponentTest, QueryInterfaceOfTheComponentAnswersT
     EXPECT_EQ(2, if4->entry->getMom(&mom));
 }
 
+TEST_F(ModelRepositoryServiceComponentTest, OtherComponentsReadTheLoadedModelThroughTheQueryInterface) {
+    ModelRepositoryService service;
+    startWithTwoModels(service);
+    const ZefOamSpiModelRepository_4* if4 =
+        framework.provided<ZefOamSpiModelRepository_4>("ZefOamSpiModelRepository", "4");
+    ASSERT_NE(nullptr, if4);
+    std::vector<std::string> read;
+    uint64_t mom = 0;
+    ASSERT_EQ(0, if4->entry->getMom(&mom));
+    do {
+        uint64_t properties = 0;
+        uint64_t root = 0;
+        uint64_t rootProperties = 0;
+        uint64_t attribute = 0;
+        uint64_t attributeProperties = 0;
+        const char* momName = nullptr;
+        const char* version = nullptr;
+        const char* rootName = nullptr;
+        const char* attributeName = nullptr;
+        ASSERT_EQ(0, if4->mom->getGeneralProperties(mom, &properties));
+        ASSERT_EQ(0, if4->generalProperties->getName(properties, &momName));
+        ASSERT_EQ(0, if4->mom->getVersion(mom, &version));
+        ASSERT_EQ(0, if4->mom->getRootMoc(mom, &root));
+        ASSERT_EQ(0, if4->moc->getGeneralProperties(root, &rootProperties));
+        ASSERT_EQ(0, if4->generalProperties->getName(rootProperties, &rootName));
+        ASSERT_EQ(0, if4->moc->getAttribute(root, &attribute));
+        ASSERT_EQ(0, if4->attribute->getGeneralProperties(attribute, &attributeProperties));
+        ASSERT_EQ(0, if4->generalProperties->getName(attributeProperties, &attributeName));
+        read.push_back(std::string(momName) + " " + version + " " + rootName + "." + attributeName);
+    } while (if4->mom->getNext(mom, &mom) == 0);
+    EXPECT_EQ((std::vector<std::string>{"T 1 Root.rootId", "U 2 Node.nodeId"}), read);
+    ASSERT_EQ(0, framework.stopComponent());
+}
+
 TEST_F(ModelRepositoryServiceComponentTest, RequiredInterfacesAreLogAndTrace) {
     ModelRepositoryService service;
     std::vector<std::string> required;
