@@ -30,7 +30,7 @@ typedef struct ZefOamApiStaticValidatorInterface_1 {
      * `result` is set to null before
      * the call and may be pointed at a text owned by the plug-in.
      * Returns 0 when the model failed the check, non-zero when it passed
-     * (a passing check must set `result`, to "" when it has nothing to say).
+     * (leaving `result` unset, or pointing it at "", means nothing to say).
      */
     int (*check)(const struct ZefOamSpiModelRepository_4* modelIf4, const char** result);
     /** Called once after every call of `check`, whatever its outcome. */
