@@ -47,6 +47,7 @@ void GeneralPropertiesWrapper::copyGeneralPropertiesFrom(const GeneralProperties
     _gp.status = from.status;
     _gp.hidden = copyOrNull(from.hidden);
     _status3 = source._status3;
+    _sourceLocation = source._sourceLocation;
     _domainExtensions.reserve(_domainExtensions.size() + source._domainExtensions.size());
     for (const DomainExtensionWrapper* extension : source._domainExtensions) {
         _domainExtensions.push_back(extension->clone());

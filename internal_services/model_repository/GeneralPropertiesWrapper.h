@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "DomainExtensionWrapper.h"
+#include "SourceLocation.h"
 #include "ZefOamSpiMrTypes.h"
 #include "ZefReturn.h"
 
@@ -98,6 +99,12 @@ public:
     /// True when the element carries the domain extension "QCIM"/"isNillable".
     bool isNillable() const;
 
+    /// Where the element that defined this record stands in its model file;
+    /// unknown for a record no parser made. A record cloned from another
+    /// keeps the place of the original.
+    const SourceLocation& getSourceLocation() const { return _sourceLocation; }
+    void setSourceLocation(const SourceLocation& location) { _sourceLocation = location; }
+
 protected:
     /// Fills the fragment, which must hold no strings (freshly reset), with
     /// copies of the strings, status, status text and domain extensions of
@@ -110,6 +117,7 @@ private:
     std::vector<DomainExtensionWrapper*> _domainExtensions;
     uint64_t _ownHandle = 0;
     uint64_t* _handleSlot;
+    SourceLocation _sourceLocation;
 };
 
 } // namespace ZefModelRepositoryService

@@ -113,6 +113,25 @@ std::unique_ptr<T> hold(T* record) {
 
 } // namespace
 
+// Names the file being parsed for the locations of findings and records,
+// for as long as parse() reads it.
+class ModelParser::FileBeingParsed {
+public:
+    FileBeingParsed(ModelParser& parser, const std::string* file) : _parser(parser) {
+        _parser._file = file;
+        _parser._reading.clear();
+    }
+    ~FileBeingParsed() {
+        _parser._file = nullptr;
+        _parser._reading.clear();
+    }
+    FileBeingParsed(const FileBeingParsed&) = delete;
+    FileBeingParsed& operator=(const FileBeingParsed&) = delete;
+
+private:
+    ModelParser& _parser;
+};
+
 ModelParser::ModelParser(ModelRepository& repository) : _repository(&repository) {}
 
 ModelParser::~ModelParser() = default;
@@ -123,6 +142,7 @@ int ModelParser::parse(const std::string& fileName) {
         return -2;
     }
     ZEF_TRACE("Parsing file '%s'", fileName.c_str());
+    const FileBeingParsed file(*this, _repository->noteModelFile(fileName));
 
     Zef::ZefConfiguration document;
     Node* models = nullptr;
@@ -161,6 +181,7 @@ int ModelParser::parse(const std::string& fileName) {
 
 void ModelParser::processModelsNode(Node& models, const std::string& fileName) {
     ZEF_TRACE_ENTER(" >> Processing models: %s.", models.nodeName().c_str());
+    const ReadingScope reading(*this, models);
 
     for (Attr* attr : attributesOf(models)) {
         if (attr->name() == "dtdDocNo" || attr->name() == "dtdRevision") {
@@ -180,6 +201,7 @@ void ModelParser::processModelsNode(Node& models, const std::string& fileName) {
                 } catch (const std::exception&) {
                     // The rest of the file is not read: its elements may
                     // refer to the MOM that failed.
+                    const ReadingScope mim(*this, *child);
                     checkThrowException(3, "%s", kMomNotLoaded);
                     return;
                 }
@@ -208,8 +230,10 @@ void ModelParser::processModelsNode(Node& models, const std::string& fileName) {
 
 MomWrapper* ModelParser::processMomNode(Node& mim, const std::string& fileName) {
     ZEF_TRACE_ENTER(" >> Processing mim: %s.", nameAttributeOf(mim).c_str());
+    const ReadingScope reading(*this, mim);
 
     std::unique_ptr<MomWrapper> holder(new MomWrapper());
+    placeRecord(*holder, mim);
     holder->setFileName(fileName);
     for (Attr* attr : attributesOf(mim)) {
         const std::string& name = attr->name();
@@ -235,6 +259,7 @@ MomWrapper* ModelParser::processMomNode(Node& mim, const std::string& fileName) 
             ignoreUnsupportedElementTypeLog(*child);
             continue;
         }
+        const ReadingScope readingChild(*this, *child);
         const std::string& name = child->nodeName();
         if (name == "class") {
             fileAndPublish(std::unique_ptr<MocWrapper, void (*)(MocWrapper*)>(processMocNode(*child, *mom), &discardMoc),
@@ -274,6 +299,7 @@ MomWrapper* ModelParser::processMomNode(Node& mim, const std::string& fileName) 
 }
 
 void ModelParser::handleModelFeatures(Node* modelFeatures, MomWrapper* mom) {
+    const ReadingScope reading(*this, *modelFeatures);
     for (Attr* attr : attributesOf(*modelFeatures)) {
         if (attr->name() == "modelType") {
             // Read for the trimming check only; the repository does not keep it.
@@ -423,7 +449,24 @@ void ModelParser::vcheckThrowException(unsigned short level, const char* format,
         va_end(copy);
         ZEF_LOG(level, "%s", message);
     }
-    _repository->checkThrowException("ModelParser", level, format, args);
+    const SourceLocation where = _reading.empty() ? SourceLocation() : locationOf(*_reading.back());
+    _repository->checkThrowException(where, "ModelParser", level, format, args);
+}
+
+ModelParser::ReadingScope::ReadingScope(ModelParser& parser, Node& element) : _parser(parser) {
+    _parser._reading.push_back(&element);
+}
+
+ModelParser::ReadingScope::~ReadingScope() { _parser._reading.pop_back(); }
+
+SourceLocation ModelParser::locationOf(Node& /*element*/) const {
+    SourceLocation location;
+    location.file = _file;
+    return location;
+}
+
+void ModelParser::placeRecord(GeneralPropertiesWrapper& record, Node& element) const {
+    record.setSourceLocation(locationOf(element));
 }
 
 void ModelParser::reportSetterResult(ZefReturnT result, const char* alreadySetFormat, const char* failedFormat, ...) {
@@ -464,6 +507,7 @@ ZefReturnT ModelParser::setStatusWord(const std::string& word, GeneralProperties
 
 Poco::XML::Node* ModelParser::initTypes(Node& dataType) {
     ZEF_TRACE_ENTER(" >> Processing datatype initialization: %s.", dataType.nodeName().c_str());
+    const ReadingScope reading(*this, dataType);
     Node* type = nullptr;
     for (Node* child = dataType.firstChild(); child != nullptr; child = child->nextSibling()) {
         if (!isElement(*child)) {
@@ -567,6 +611,7 @@ ZefReturnT ModelParser::ifPrimitiveValueCheckElseIgnore(std::string& value, ZefO
 
 void ModelParser::handleBaseType(Node& baseType, DdtWrapper& ddt) {
     ZEF_TRACE_ENTER(" >> handling base type: %s.", baseType.nodeName().c_str());
+    const ReadingScope reading(*this, baseType);
     Node* type = initTypes(baseType);
     if (type == nullptr) {
         return;

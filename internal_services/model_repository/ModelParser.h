@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "SourceLocation.h"
 #include "ZefOamSpiMrTypes.h"
 #include "ZefReturn.h"
 
@@ -119,6 +120,26 @@ public:
     /// warning); empty when there is none.
     static std::string nameAttributeOf(Node& element);
 
+    /// While it lives, the findings of the parser point at `element`: each
+    /// handler names the element it reads, and scopes nest as the handlers
+    /// do. The element must belong to the document being parsed.
+    class ReadingScope {
+    public:
+        ReadingScope(ModelParser& parser, Node& element);
+        ~ReadingScope();
+        ReadingScope(const ReadingScope&) = delete;
+        ReadingScope& operator=(const ReadingScope&) = delete;
+
+    private:
+        ModelParser& _parser;
+    };
+    /// Where `element` stands in the file being parsed: the file, and the
+    /// line and column where the reader met its start tag (0 when not known).
+    /// Unknown outside parse().
+    SourceLocation locationOf(Node& element) const;
+    /// Gives a record the place of the element that defines it.
+    void placeRecord(GeneralPropertiesWrapper& record, Node& element) const;
+
     // ---- classes and their members (ModelParserClasses.cpp) -----------------
 
     /// The class record, or null when the class is refused.
@@ -174,6 +195,8 @@ public:
 private:
     // ---- frame and mim level (ModelParser.cpp) ------------------------------
 
+    class FileBeingParsed;
+
     /// checkThrowException on a va_list: logs the formatted text at its level
     /// and hands it to the repository as a finding of "ModelParser".
     void vcheckThrowException(unsigned short level, const char* format, va_list args)
@@ -192,6 +215,10 @@ private:
 
     ModelRepository* _repository;
     bool _standalone = false;
+    // The file being parsed, as the repository keeps its name; null outside parse().
+    const std::string* _file = nullptr;
+    // The elements being read, innermost last (see ReadingScope).
+    std::vector<Node*> _reading;
 };
 
 } // namespace ZefModelRepositoryService

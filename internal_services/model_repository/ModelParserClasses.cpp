@@ -69,7 +69,9 @@ const char* const kSchematronFormat = "QCIM_Schematron_1";
 
 MocWrapper* ModelParser::processMocNode(Node& classElement, MomWrapper& mom) {
     ZEF_TRACE_ENTER(" >> Processing class");
+    const ReadingScope reading(*this, classElement);
     std::unique_ptr<MocWrapper, void (*)(MocWrapper*)> moc(new MocWrapper(), &discardMoc);
+    placeRecord(*moc, classElement);
     moc->setMom(&mom.getStruct());
     GeneralPropertiesWrapper& properties = moc->getGeneralProperties();
 
@@ -108,6 +110,7 @@ MocWrapper* ModelParser::processMocNode(Node& classElement, MomWrapper& mom) {
 }
 
 void ModelParser::processMocChild(Node& child, MocWrapper& moc, const std::string& mocName) {
+    const ReadingScope reading(*this, child);
     GeneralPropertiesWrapper& properties = moc.getGeneralProperties();
     const std::string& name = child.nodeName();
     ZefReturnT result = ZefOk;
@@ -178,6 +181,7 @@ void ModelParser::discardMoc(MocWrapper* moc) {
 }
 
 void ModelParser::processMocValidationRules(const std::string& mocName, Node& validationRules, MocWrapper& moc) {
+    const ReadingScope reading(*this, validationRules);
     ignoreAllAttributes(validationRules);
     if (!validationRules.hasChildNodes()) {
         checkThrowException(4, "ValidationRules does not contain any rule elements, according to the dtd it must.");
@@ -219,7 +223,9 @@ void ModelParser::processMocValidationRules(const std::string& mocName, Node& va
 
 AttrWrapper* ModelParser::processAttrNode(Node& attribute, MocWrapper& moc) {
     ZEF_TRACE_ENTER(" >> Processing attribute: %s.", nameAttributeOf(attribute).c_str());
+    const ReadingScope reading(*this, attribute);
     std::unique_ptr<AttrWrapper> attr(new AttrWrapper());
+    placeRecord(*attr, attribute);
     attr->setMoc(&moc.getStruct());
     GeneralPropertiesWrapper& properties = attr->getGeneralProperties();
 
@@ -251,6 +257,7 @@ AttrWrapper* ModelParser::processAttrNode(Node& attribute, MocWrapper& moc) {
 }
 
 void ModelParser::processAttrChild(Node& child, AttrWrapper& attr, const std::string& attrName) {
+    const ReadingScope reading(*this, child);
     GeneralPropertiesWrapper& properties = attr.getGeneralProperties();
     const std::string& name = child.nodeName();
     ZefReturnT result = ZefOk;
@@ -292,7 +299,9 @@ void ModelParser::processAttrChild(Node& child, AttrWrapper& attr, const std::st
 
 MoActionWrapper* ModelParser::processActionNode(Node& actionElement, MocWrapper& moc) {
     ZEF_TRACE_ENTER(" >> Processing action: %s.", nameAttributeOf(actionElement).c_str());
+    const ReadingScope reading(*this, actionElement);
     std::unique_ptr<MoActionWrapper> action(new MoActionWrapper());
+    placeRecord(*action, actionElement);
     action->setMoc(&moc.getStruct());
     GeneralPropertiesWrapper& properties = action->getGeneralProperties();
 
@@ -319,6 +328,7 @@ MoActionWrapper* ModelParser::processActionNode(Node& actionElement, MocWrapper&
             ignoreUnsupportedElementTypeLog(*child);
             continue;
         }
+        const ReadingScope readingChild(*this, *child);
         const std::string& name = child->nodeName();
         ZefReturnT result = ZefOk;
         if (name == "domainExtension") {
@@ -349,6 +359,7 @@ MoActionWrapper* ModelParser::processActionNode(Node& actionElement, MocWrapper&
 }
 
 void ModelParser::handleReturnType(Node* returnType, MoActionWrapper* action) {
+    const ReadingScope reading(*this, *returnType);
     Node* type = initTypes(*returnType);
     if (type == nullptr) {
         return;
@@ -374,7 +385,9 @@ void ModelParser::handleReturnType(Node* returnType, MoActionWrapper* action) {
 
 void ModelParser::handleParameter(Node& parameter, MoActionWrapper& action) {
     ZEF_TRACE_ENTER(" >> handling parameter: %s.", nameAttributeOf(parameter).c_str());
+    const ReadingScope reading(*this, parameter);
     std::unique_ptr<ParameterWrapper> param(new ParameterWrapper());
+    placeRecord(*param, parameter);
     param->setMoAction(&action);
     GeneralPropertiesWrapper& properties = param->getGeneralProperties();
 
@@ -448,6 +461,7 @@ void ModelParser::handleParameter(Node& parameter, MoActionWrapper& action) {
 
 template <typename T>
 void ModelParser::handleDataType(Node* dataType, T* record) {
+    const ReadingScope reading(*this, *dataType);
     Node* type = initTypes(*dataType);
     if (type == nullptr) {
         return;
@@ -472,6 +486,7 @@ void ModelParser::handleDataType(Node* dataType, T* record) {
 
 template <typename T>
 bool ModelParser::checkHandlePrimitiveDataType(Node* type, T* record, ZefReturnT& result) {
+    const ReadingScope reading(*this, *type);
     const ZefOamSpiMrType_3 code = primitiveTypeCode(type->nodeName());
     if (code == ZefMrType3NotSet) {
         return false;
@@ -510,6 +525,7 @@ bool ModelParser::checkHandlePrimitiveDataType(Node* type, T* record, ZefReturnT
 
 template <typename T>
 void ModelParser::handleReference(Node* reference, T* record, bool allowDefault) {
+    const ReadingScope reading(*this, *reference);
     // Every typed record is also its own reference by name.
     RefId& ref = *record;
     for (Attr* attr : attributesOf(*reference)) {
@@ -548,6 +564,7 @@ void ModelParser::handleReference(Node* reference, T* record, bool allowDefault)
 
 template <typename T>
 void ModelParser::handleSeqDataType(Node* sequence, T* record) {
+    const ReadingScope reading(*this, *sequence);
     ignoreAllAttributes(*sequence);
     const std::string recordName = record->getName();
     for (Node* child = sequence->firstChild(); child != nullptr; child = child->nextSibling()) {
@@ -594,6 +611,7 @@ void ModelParser::handleSeqDataType(Node* sequence, T* record) {
 
 template <typename T>
 ZefReturnT ModelParser::handleSeqDefaultValue(Node* seqDefaultValue, T* record) {
+    const ReadingScope reading(*this, *seqDefaultValue);
     ignoreAllAttributes(*seqDefaultValue);
     std::string joined;
     bool hasValue = false;

@@ -91,6 +91,7 @@ void readRangeBounds(ModelParser& parser, Node& range, DdtWrapper& ddt,
             parser.ignoreUnsupportedElementTypeLog(*child);
             continue;
         }
+        const ModelParser::ReadingScope reading(parser, *child);
         const std::string& name = child->nodeName();
         if (name == "min") {
             if ((ddt.*addMin)(parser.getPcdata(*child)) != ZefOk) {
@@ -109,6 +110,7 @@ void readRangeBounds(ModelParser& parser, Node& range, DdtWrapper& ddt,
 // Integer and double base types differ only in how the resolution is read.
 void readNumericRestrictions(ModelParser& parser, Node& type, DdtWrapper& ddt, bool isDouble) {
     ZEF_TRACE_ENTER(" >> handling Int data type %s.", type.nodeName().c_str());
+    const ModelParser::ReadingScope reading(parser, type);
     parser.ignoreAllAttributes(type);
     for (Node* child = type.firstChild(); child != nullptr; child = child->nextSibling()) {
         if (!isElement(*child)) {
@@ -151,7 +153,9 @@ bool holdsStruct(Node& sequence) {
 
 EnumWrapper* ModelParser::processEnumNode(Node& enumeration, MomWrapper& mom) {
     ZEF_TRACE_ENTER(" >> Processing enumeration: %s.", nameAttributeOf(enumeration).c_str());
+    const ReadingScope reading(*this, enumeration);
     std::unique_ptr<EnumWrapper> record(new EnumWrapper());
+    placeRecord(*record, enumeration);
     record->setMom(&mom.getStruct());
 
     for (Attr* attr : attributesOf(enumeration)) {
@@ -188,7 +192,9 @@ EnumWrapper* ModelParser::processEnumNode(Node& enumeration, MomWrapper& mom) {
 
 void ModelParser::handleEnumMember(Node& enumMember, EnumWrapper& enumeration) {
     ZEF_TRACE_ENTER(" >> Processing enumMember: %s.", nameAttributeOf(enumMember).c_str());
+    const ReadingScope reading(*this, enumMember);
     std::unique_ptr<LitWrapper> literal(new LitWrapper());
+    placeRecord(*literal, enumMember);
 
     for (Attr* attr : attributesOf(enumMember)) {
         if (attr->name() == "name") {
@@ -255,7 +261,9 @@ void ModelParser::handleEnumMember(Node& enumMember, EnumWrapper& enumeration) {
 
 DdtWrapper* ModelParser::processDdtNode(Node& derivedDataType, MomWrapper& mom) {
     ZEF_TRACE_ENTER(" >> Processing derived datatype: %s.", nameAttributeOf(derivedDataType).c_str());
+    const ReadingScope reading(*this, derivedDataType);
     std::unique_ptr<DdtWrapper> ddt(new DdtWrapper());
+    placeRecord(*ddt, derivedDataType);
     ddt->setMom(&mom.getStruct());
 
     for (Attr* attr : attributesOf(derivedDataType)) {
@@ -321,6 +329,7 @@ void ModelParser::handleIntDataType(Node& type, DdtWrapper& ddt) { readNumericRe
 void ModelParser::handleDoubleDataType(Node& type, DdtWrapper& ddt) { readNumericRestrictions(*this, type, ddt, true); }
 
 void ModelParser::handleDdtStringDataType(Node& type, DdtWrapper& ddt) {
+    const ReadingScope reading(*this, type);
     ZEF_TRACE_ENTER(" >> handleDdtString data type: %s.", type.nodeName().c_str());
     ignoreAllAttributes(type);
     const std::string ddtName = ddt.getName();
@@ -350,6 +359,7 @@ void ModelParser::handleDdtStringDataType(Node& type, DdtWrapper& ddt) {
 }
 
 void ModelParser::handleBoolDefaultValue(Node& type, DdtWrapper& ddt) {
+    const ReadingScope reading(*this, type);
     ZEF_TRACE_ENTER(" >> handling bool default value: %s.", type.nodeName().c_str());
     ignoreAllAttributes(type);
     const std::string ddtName = ddt.getName();
@@ -380,6 +390,7 @@ void ModelParser::handleBoolDefaultValue(Node& type, DdtWrapper& ddt) {
 
 void ModelParser::processDdtValidationRules(const std::string& ddtName, Node& validationRules, std::string& pattern,
                                             std::string& exceptionText) {
+    const ReadingScope reading(*this, validationRules);
     ignoreAllAttributes(validationRules);
     if (!validationRules.hasChildNodes()) {
         checkThrowException(4, "ValidationRules does not contain any rule elements, according to the dtd it must.");
@@ -426,7 +437,9 @@ void ModelParser::processDdtValidationRules(const std::string& ddtName, Node& va
 
 StructWrapper* ModelParser::processStructNode(Node* structure, MomWrapper* mom) {
     ZEF_TRACE_ENTER(" >> Processing struct: %s.", nameAttributeOf(*structure).c_str());
+    const ReadingScope reading(*this, *structure);
     std::unique_ptr<StructWrapper> record(new StructWrapper());
+    placeRecord(*record, *structure);
     record->setMom(&mom->getStruct());
 
     for (Attr* attr : attributesOf(*structure)) {
@@ -485,7 +498,9 @@ StructWrapper* ModelParser::processStructNode(Node* structure, MomWrapper* mom) 
 
 StructMemberWrapper* ModelParser::processStructMemberNode(Node* structMember) {
     ZEF_TRACE_ENTER(" >> Processing struct member: %s.", nameAttributeOf(*structMember).c_str());
+    const ReadingScope reading(*this, *structMember);
     std::unique_ptr<StructMemberWrapper> member(new StructMemberWrapper());
+    placeRecord(*member, *structMember);
 
     for (Attr* attr : attributesOf(*structMember)) {
         if (attr->name() == "name") {
@@ -546,6 +561,7 @@ StructMemberWrapper* ModelParser::processStructMemberNode(Node* structMember) {
 
 void ModelParser::handleDomainExtension(Node* domainExtension, GeneralPropertiesWrapper* owner) {
     ZEF_TRACE_ENTER(" >> handleDomainExtension %s.", domainExtension->nodeName().c_str());
+    const ReadingScope reading(*this, *domainExtension);
     std::string domain;
     for (Attr* attr : attributesOf(*domainExtension)) {
         if (attr->name() == "domain") {

@@ -50,6 +50,7 @@ const char* relationshipStatusFailure(const std::string& word) {
 // end in the findings, which speak of a containment in both cases.
 template <typename SetMin, typename SetMax>
 void readCardinality(ModelParser& parser, Node& cardinality, const std::string& what, SetMin setMin, SetMax setMax) {
+    const ModelParser::ReadingScope reading(parser, cardinality);
     for (Attr* attr : parser.attributesOf(cardinality)) {
         parser.checkThrowException(4, "Cardinality should not have an attribute: %s.", attr->name().c_str());
     }
@@ -155,6 +156,7 @@ void handleAssociationBody(ModelParser& parser, Node& body, MomWrapper& mom, Uni
 
 void ModelParser::processRelationshipNode(Node& relationship, MomWrapper& mom) {
     ZEF_TRACE_ENTER(" >> Processing relationship: %s.", nameAttributeOf(relationship).c_str());
+    const ReadingScope reading(*this, relationship);
     // Each body defines one record; the relationship's name, properties and
     // status words are read into that record by the record's handler.
     for (Node* child = relationship.firstChild(); child != nullptr; child = child->nextSibling()) {
@@ -167,10 +169,12 @@ void ModelParser::processRelationshipNode(Node& relationship, MomWrapper& mom) {
                            &ModelRepository::addCont, *_repository);
         } else if (name == "biDirectionalAssociation") {
             std::unique_ptr<BiDirAssociationWrapper> assoc(new BiDirAssociationWrapper());
+            placeRecord(*assoc, relationship);
             processDirectionalAssocNode(relationship, *child, mom, *assoc);
             fileAndPublish(std::move(assoc), &ModelRepository::addBidir, *_repository);
         } else if (name == "uniDirectionalAssociation") {
             std::unique_ptr<UniDirAssociationWrapper> assoc(new UniDirAssociationWrapper());
+            placeRecord(*assoc, relationship);
             processDirectionalAssocNode(relationship, *child, mom, *assoc);
             fileAndPublish(std::move(assoc), &ModelRepository::addUnidir, *_repository);
         }
@@ -179,7 +183,9 @@ void ModelParser::processRelationshipNode(Node& relationship, MomWrapper& mom) {
 }
 
 ContWrapper* ModelParser::processContNode(Node& relationship, Node& containment, MomWrapper& mom) {
+    const ReadingScope reading(*this, relationship);
     std::unique_ptr<ContWrapper> cont(new ContWrapper(false));
+    placeRecord(*cont, relationship);
     cont->setMom(&mom.getStruct());
     // The containment texts speak of the mom; they are the established ones.
     readRelationshipName(*this, relationship, *cont, "Mom name (%s) is already set.", "Failed to set mom name (%s).");
@@ -189,6 +195,7 @@ ContWrapper* ModelParser::processContNode(Node& relationship, Node& containment,
 }
 
 void ModelParser::handleContainment(Node& containment, ContWrapper& cont) {
+    const ReadingScope reading(*this, containment);
     ignoreAllAttributes(containment);
     const std::string contName = cont.getName();
     for (Node* child = containment.firstChild(); child != nullptr; child = child->nextSibling()) {
@@ -219,6 +226,7 @@ void ModelParser::handleContainment(Node& containment, ContWrapper& cont) {
 
 void ModelParser::handleContEnd(Node& end, ContWrapper& cont, bool kid) {
     ZEF_TRACE_ENTER(" >> Processing containment's end: %s (kid=%d).", end.nodeName().c_str(), kid ? 1 : 0);
+    const ReadingScope reading(*this, end);
     ignoreAllAttributes(end);
     const std::string contName = cont.getName();
     for (Node* child = end.firstChild(); child != nullptr; child = child->nextSibling()) {
@@ -271,6 +279,7 @@ void ModelParser::handleContEnd(Node& end, ContWrapper& cont, bool kid) {
 
 void ModelParser::processInterMimNode(Node& interMim) {
     ZEF_TRACE_ENTER(" >> Processing Intermim: %s.", interMim.nodeName().c_str());
+    const ReadingScope reading(*this, interMim);
     ignoreAllAttributes(interMim);
     for (Node* relationship = interMim.firstChild(); relationship != nullptr;
          relationship = relationship->nextSibling()) {
@@ -284,7 +293,9 @@ void ModelParser::processInterMimNode(Node& interMim) {
         }
         ZEF_TRACE("processInterMimNode, Processing element (%s)", relationship->nodeName().c_str());
 
+        const ReadingScope readingRelationship(*this, *relationship);
         std::unique_ptr<ContWrapper> cont(new ContWrapper(true));
+        placeRecord(*cont, *relationship);
         const std::string contName = readRelationshipName(*this, *relationship, *cont,
                                                           "Name of interMim (%s) is already set.",
                                                           "Failed to set name of the interMim (%s).");
@@ -330,6 +341,7 @@ void ModelParser::processInterMimNode(Node& interMim) {
 template <typename T>
 void ModelParser::processDirectionalAssocNode(Node& relationship, Node& body, MomWrapper& mom, T& assoc) {
     ZEF_TRACE_ENTER(" >> Processing bi/uni directional association end: %s.", nameAttributeOf(relationship).c_str());
+    const ReadingScope reading(*this, relationship);
     assoc.setMom(&mom.getStruct());
     for (Attr* attr : attributesOf(relationship)) {
         if (attr->name() == "name") {
@@ -354,6 +366,7 @@ template void ModelParser::processDirectionalAssocNode<UniDirAssociationWrapper>
                                                                                  UniDirAssociationWrapper&);
 
 void ModelParser::handleBidirAssociation(Node& body, MomWrapper& mom, BiDirAssociationWrapper& bidir) {
+    const ReadingScope reading(*this, body);
     ignoreAllAttributes(body);
     const std::string assocName = bidir.getName();
     int ends = 0;
@@ -391,6 +404,7 @@ void ModelParser::handleBidirAssociation(Node& body, MomWrapper& mom, BiDirAssoc
 }
 
 void ModelParser::handleUnidirAssociation(Node& body, MomWrapper& mom, UniDirAssociationWrapper& unidir) {
+    const ReadingScope reading(*this, body);
     ignoreAllAttributes(body);
     const std::string assocName = unidir.getName();
     for (Node* child = body.firstChild(); child != nullptr; child = child->nextSibling()) {
@@ -452,7 +466,9 @@ void ModelParser::handleUnidirAssociation(Node& body, MomWrapper& mom, UniDirAss
 AssociationEndWrapper* ModelParser::processAssociationEndNode(Node& end, MomWrapper& mom,
                                                               const std::string& identifier) {
     ZEF_TRACE_ENTER(" >> Processing association end: %s.", nameAttributeOf(end).c_str());
+    const ReadingScope reading(*this, end);
     std::unique_ptr<AssociationEndWrapper> record(new AssociationEndWrapper());
+    placeRecord(*record, end);
     record->setMom(&mom.getStruct());
     // Without a relationship name the end has no identity; the repository
     // reports it when the end is added.
@@ -464,6 +480,7 @@ AssociationEndWrapper* ModelParser::processAssociationEndNode(Node& end, MomWrap
 
 void ModelParser::handleAssociationEnd(Node& end, AssociationEndWrapper& record) {
     ZEF_TRACE_ENTER(" >> Processing association's end: %s.", nameAttributeOf(end).c_str());
+    const ReadingScope reading(*this, end);
     for (Attr* attr : attributesOf(end)) {
         if (attr->name() == "name") {
             const std::string name = getPocoData(attr);

@@ -10,6 +10,8 @@
 #include "DdtWrapper.h"
 #include "DnUtil.h"
 #include "EnumWrapper.h"
+#include "FindingLocator.h"
+#include "FindingRules.h"
 #include "If2Manager.h"
 #include "If2Publisher.h"
 #include "MoActionWrapper.h"
@@ -71,6 +73,11 @@ void ModelRepository::checkThrowException(unsigned short level, const char* form
 
 void ModelRepository::checkThrowException(const char* who, unsigned short level, const char* format,
                                           va_list args) {
+    checkThrowException(SourceLocation(), who, level, format, args);
+}
+
+void ModelRepository::checkThrowException(const SourceLocation& where, const char* who, unsigned short level,
+                                          const char* format, va_list args) {
     std::vsnprintf(_messageBuffer, sizeof(_messageBuffer), format, args);
     std::string entry;
     if (level == ZEF_LOG_LEVEL_ERROR) {
@@ -81,6 +88,7 @@ void ModelRepository::checkThrowException(const char* who, unsigned short level,
         entry = _messageBuffer;
     }
     _messages.push_back(entry);
+    _findings.push_back(describeFinding(where, who, level, format));
     // A framework component stops at the first error; the validator tool
     // collects every finding of the model in one run.
     if (!_standalone && level == ZEF_LOG_LEVEL_ERROR) {
@@ -88,9 +96,71 @@ void ModelRepository::checkThrowException(const char* who, unsigned short level,
     }
 }
 
+Finding ModelRepository::describeFinding(const SourceLocation& where, const char* who, unsigned short level,
+                                         const char* format) const {
+    Finding finding;
+    finding.severity = level == ZEF_LOG_LEVEL_ERROR     ? FindingSeverity::Error
+                       : level == ZEF_LOG_LEVEL_WARNING ? FindingSeverity::Warning
+                                                        : FindingSeverity::Note;
+    finding.reporter = who;
+    finding.message = _messageBuffer;
+    // Most places report with the template itself; a text put together
+    // before it was reported is recognised by its shape.
+    finding.rule = FindingRules::byFormat(format);
+    if (finding.rule == nullptr) {
+        finding.rule = FindingRules::byText(finding.message);
+    }
+    std::vector<std::string> arguments;
+    if (finding.rule != nullptr && finding.rule->subjectArgument > 0 &&
+        FindingRules::arguments(*finding.rule, finding.message, arguments) &&
+        finding.rule->subjectArgument <= arguments.size()) {
+        finding.key = arguments[finding.rule->subjectArgument - 1];
+    }
+    if (where.isKnown()) {
+        finding.location = where;
+        return finding;
+    }
+    const GeneralPropertiesWrapper* record = nullptr;
+    if (!finding.key.empty()) {
+        record = FindingLocator(*this).find(finding.rule->subject, finding.key);
+    }
+    if (record == nullptr) {
+        record = _findingSubject;
+    }
+    if (record != nullptr) {
+        finding.location = record->getSourceLocation();
+        if (finding.key.empty()) {
+            finding.key = record->getId();
+        }
+    }
+    return finding;
+}
+
 void ModelRepository::report(unsigned short level, const char* format, ...) {
     va_list args;
     va_start(args, format);
+    try {
+        vreport(SourceLocation(), level, format, args);
+    } catch (...) {
+        va_end(args);
+        throw;
+    }
+    va_end(args);
+}
+
+void ModelRepository::reportAt(const SourceLocation& where, unsigned short level, const char* format, ...) {
+    va_list args;
+    va_start(args, format);
+    try {
+        vreport(where, level, format, args);
+    } catch (...) {
+        va_end(args);
+        throw;
+    }
+    va_end(args);
+}
+
+void ModelRepository::vreport(const SourceLocation& where, unsigned short level, const char* format, va_list args) {
     Zef::LoggingWrapper* logger = Zef::LoggingWrapper::instance();
     if (logger->get_level() >= level) {
         va_list logArgs;
@@ -98,15 +168,18 @@ void ModelRepository::report(unsigned short level, const char* format, ...) {
         char line[sizeof(_messageBuffer)];
         std::vsnprintf(line, sizeof(line), format, logArgs);
         va_end(logArgs);
-        logger->log_printf(__func__, level, 1, "%s", line);
+        // The log names the reporting function as it always has.
+        logger->log_printf("report", level, 1, "%s", line);
     }
-    try {
-        checkThrowException(kRepositoryReporter, level, format, args);
-    } catch (...) {
-        va_end(args);
-        throw;
+    checkThrowException(where, kRepositoryReporter, level, format, args);
+}
+
+const std::string* ModelRepository::noteModelFile(const std::string& fileName) {
+    const auto inserted = _modelFileNames.insert(fileName);
+    if (inserted.second) {
+        _modelFilesRead.push_back(&*inserted.first);
     }
-    va_end(args);
+    return &*inserted.first;
 }
 
 // ---- registries ------------------------------------------------------------
@@ -118,14 +191,16 @@ ZefReturnT ModelRepository::addRecord(Map& map, Record* record, const char* null
         report(ZEF_LOG_LEVEL_ERROR, "%s", nullText);
         return ZefInvalidArgument;
     }
+    // A refused record is named by the element that defined it, not by
+    // the record that holds its key already.
     std::string key = record->getId();
     if (key.empty()) {
-        report(ZEF_LOG_LEVEL_ERROR, "%s", incompleteText(*record).c_str());
+        reportAt(record->getSourceLocation(), ZEF_LOG_LEVEL_ERROR, "%s", incompleteText(*record).c_str());
         return ZefFailure;
     }
     // A unique insert keeps the first record of a key.
     if (!map.emplace(key, record).second) {
-        report(ZEF_LOG_LEVEL_ERROR, duplicateFormat, key.c_str());
+        reportAt(record->getSourceLocation(), ZEF_LOG_LEVEL_ERROR, duplicateFormat, key.c_str());
         return ZefAlreadyExists;
     }
     return ZefOk;
@@ -173,13 +248,13 @@ ZefReturnT ModelRepository::addMom(MomWrapper* mom) {
     }
     std::string key = mom->getId();
     if (key.empty()) {
-        report(ZEF_LOG_LEVEL_ERROR, "Incomplete Mom, could not add to the list.");
+        reportAt(mom->getSourceLocation(), ZEF_LOG_LEVEL_ERROR, "Incomplete Mom, could not add to the list.");
         return ZefFailure;
     }
     // The list keeps the order of loading; the key set answers "already
     // added?" without walking it.
     if (!_momKeys.insert(key).second) {
-        report(ZEF_LOG_LEVEL_ERROR, "Mom (%s) already added to the list.", key.c_str());
+        reportAt(mom->getSourceLocation(), ZEF_LOG_LEVEL_ERROR, "Mom (%s) already added to the list.", key.c_str());
         return ZefAlreadyExists;
     }
     if (!_moms.empty()) {

@@ -10,8 +10,10 @@
 #include <utility>
 #include <vector>
 
+#include "Finding.h"
 #include "MocWrapper.h"
 #include "PatternCache.h"
+#include "SourceLocation.h"
 #include "ZefOamSpiModelRepository_2.h"
 #include "ZefOamSpiModelRepository_3.h"
 #include "ZefOamSpiModelRepository_4.h"
@@ -220,9 +222,30 @@ public:
     /// logs the message itself.
     void checkThrowException(const char* who, unsigned short level, const char* format, va_list args)
         __attribute__((format(printf, 4, 0)));
+    /// The same, for a finding about the element at `where` (the parser
+    /// names the element it is reading). Without a known place the finding
+    /// points at the record its text names, or at the record of the
+    /// innermost FindingSubject.
+    void checkThrowException(const SourceLocation& where, const char* who, unsigned short level, const char* format,
+                             va_list args) __attribute__((format(printf, 5, 0)));
 
     /// The findings in the order reported. Never cleared by cleanup().
     const std::list<std::string>& getMessages() const { return _messages; }
+    /// Each finding of getMessages(), at the same place, described with its
+    /// rule, its place in the model files and the identity key it names.
+    const std::vector<Finding>& getFindings() const { return _findings; }
+
+    /// Records that a model file is being read and keeps its name for the
+    /// locations of the file's records: the same text gives the same
+    /// pointer for the life of the repository.
+    const std::string* noteModelFile(const std::string& fileName);
+    /// The model files noted, in the order they were first read.
+    const std::vector<const std::string*>& getModelFilesRead() const { return _modelFilesRead; }
+
+    /// The record of the innermost FindingSubject, or null.
+    const GeneralPropertiesWrapper* getFindingSubject() const { return _findingSubject; }
+    /// Set by FindingSubject only.
+    void setFindingSubject(const GeneralPropertiesWrapper* record) { _findingSubject = record; }
 
     void setStandalone(bool standalone) { _standalone = standalone; }
     bool isStandalone() const { return _standalone; }
@@ -232,6 +255,14 @@ public:
 private:
     // Logs a finding at its level and reports it as the repository's own.
     void report(unsigned short level, const char* format, ...) __attribute__((format(printf, 3, 4)));
+    // The same for a finding about the record defined at `where`.
+    void reportAt(const SourceLocation& where, unsigned short level, const char* format, ...)
+        __attribute__((format(printf, 4, 5)));
+    void vreport(const SourceLocation& where, unsigned short level, const char* format, va_list args)
+        __attribute__((format(printf, 4, 0)));
+    // Describes the finding just formatted into the message buffer.
+    Finding describeFinding(const SourceLocation& where, const char* who, unsigned short level,
+                            const char* format) const;
     // The MOMs of one name, in the order added.
     const std::vector<MomWrapper*>& momsNamed(const std::string& mimName);
     // The common checks of a map-based add: null, incomplete, duplicate.
@@ -240,6 +271,7 @@ private:
                          const char* duplicateFormat);
 
     std::list<std::string> _messages;
+    std::vector<Finding> _findings;
     char _messageBuffer[4096];
     std::list<MomWrapper*> _moms;
     const ZefOamSpiMoc* _treeRoot = nullptr;
@@ -267,6 +299,11 @@ private:
     bool _qcimMomIndexValid = false;
     // The patterns of doRegexp, compiled once each.
     PatternCache _patterns;
+
+    // The names of the model files read, for the locations of records.
+    std::set<std::string> _modelFileNames;
+    std::vector<const std::string*> _modelFilesRead;
+    const GeneralPropertiesWrapper* _findingSubject = nullptr;
 };
 
 } // namespace ZefModelRepositoryService

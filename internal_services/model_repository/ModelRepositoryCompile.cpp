@@ -14,6 +14,7 @@
 #include "AttrWrapper.h"
 #include "CompileReporter.h"
 #include "ContWrapper.h"
+#include "FindingSubject.h"
 #include "MocWrapper.h"
 #include "MomWrapper.h"
 #include "MrUtil.h"
@@ -137,6 +138,7 @@ void ModelRepository::compileModel()
 
     ZEF_TRACE("Compiling the Containments");
     for (const auto& entry : _conts) {
+        const FindingSubject subject(*this, entry.second);
         translateMimNames(*entry.second);
         checkSetParentMimId(*entry.second);
         checkSetChildMimId(*entry.second);

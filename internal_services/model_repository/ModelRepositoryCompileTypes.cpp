@@ -12,6 +12,7 @@
 #include "CompileReporter.h"
 #include "DdtWrapper.h"
 #include "EnumWrapper.h"
+#include "FindingSubject.h"
 #include "MoActionWrapper.h"
 #include "MocWrapper.h"
 #include "MrUtil.h"
@@ -498,6 +499,7 @@ void ModelRepository::setMoAttributeDatatypeTpl(Container& container, Member* fi
     TypeResolver resolver(*this, reporter, memberWord(container), memberTexts);
     const std::string containerKey = container.getId();
     for (Member* member = first; member != nullptr; member = member->getNext()) {
+        const FindingSubject subject(*this, member);
         resolver.resolve(*member, member->getId(), containerKey, hasKeyExtension(*member));
     }
 }

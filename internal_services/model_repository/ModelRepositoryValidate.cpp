@@ -20,6 +20,7 @@
 #include "ContWrapper.h"
 #include "DdtWrapper.h"
 #include "EnumWrapper.h"
+#include "FindingSubject.h"
 #include "LitWrapper.h"
 #include "MoActionWrapper.h"
 #include "MocWrapper.h"
@@ -270,6 +271,7 @@ void ModelRepository::checkEnums()
         const EnumWrapper::LiteralList& literals = entry.second->getLiteralsList();
         for (const LitWrapper* literal = literals.empty() ? nullptr : literals.front(); literal != nullptr;
              literal = literal->getNext()) {
+            const FindingSubject subject(*this, literal);
             if (!literal->isValueSet()) {
                 report(levelWarning, literalWithoutValue, literal->getId().c_str());
             }
@@ -353,6 +355,7 @@ void ModelRepository::checkAttrs(MocWrapper& moc)
     const MocWrapper::AttrList& attrs = moc.getAttrsList();
 
     for (AttrWrapper* attr : attrs) {
+        const FindingSubject subject(*this, attr);
         const std::string key = attr->getId();
         const char* id = key.c_str();
         const ZefOamSpiMoAttribute& record = attr->getStruct();
@@ -479,6 +482,7 @@ void ModelRepository::checkActions(MocWrapper& moc)
         return doRegexp(pattern, text);
     };
     for (MoActionWrapper* action : moc.getMoActionList()) {
+        const FindingSubject subject(*this, action);
         const std::string key = action->getId();
         const ZefOamSpiDatatypeContainer& returnType = action->getDatatype();
         ZEF_TRACE("Checking MoAction (%s)", key.c_str());
@@ -504,6 +508,7 @@ void ModelRepository::checkParameters(MoActionWrapper& action)
         return doRegexp(pattern, text);
     };
     for (ParameterWrapper* parameter : action.getParameterList()) {
+        const FindingSubject subject(*this, parameter);
         const std::string key = parameter->getId();
         const ZefOamSpiDatatypeContainer& datatype = parameter->getDatatype();
         ZEF_TRACE("Checking Parameter (%s)", key.c_str());
@@ -553,6 +558,7 @@ void ModelRepository::checkConts()
         const std::string& key = entry.first;
         const ContWrapper& wrapper = *entry.second;
         const ZefOamSpiContainment& cont = wrapper.getStruct();
+        const FindingSubject subject(*this, &wrapper);
         ZEF_TRACE("Checking Containment(%s)", key.c_str());
 
         // A containment between MOMs belongs to neither of them.
@@ -615,6 +621,7 @@ void ModelRepository::checkStructs()
     };
     for (const auto& entry : _structs) {
         for (StructMemberWrapper* member : entry.second->getStructMemberList()) {
+            const FindingSubject subject(*this, member);
             const std::string key = member->getId();
             const char* id = key.c_str();
             const ZefOamSpiDatatypeContainer& datatype = member->getDatatype();

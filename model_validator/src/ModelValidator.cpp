@@ -24,6 +24,8 @@
 #include <Poco/String.h>
 
 #include "ModelRepositoryService.h"
+#include "ReportSession.h"
+#include "RuleList.h"
 #include "ZefException.h"
 #include "ZefLog.h"
 
@@ -42,6 +44,10 @@ const struct option kLongOptions[] = {
     {"plugins", required_argument, nullptr, 'p'},
     {"mainroot", required_argument, nullptr, 'm'},
     {"quiet", no_argument, nullptr, 'q'},
+    ReportOptions::entries[0],
+    ReportOptions::entries[1],
+    ReportOptions::entries[2],
+    ReportOptions::entries[3],
     {nullptr, 0, nullptr, 0},
 };
 
@@ -257,6 +263,9 @@ OptionsResult readOptions(int argc, char** argv, RunOptions& run) {
         case 'q':
             run.quiet = true;
             break;
+        case ReportOptions::ListRules:
+            printRuleList(stdout);
+            return {true, 0};
         case '?':
             return {true, -1};
         default:
@@ -307,8 +316,11 @@ int printSummary(ModelRepositoryService& service, bool quiet) {
     return exitCode;
 }
 
-int run(int argc, char** argv) {
+int run(int argc, char** argv, ReportSession& report) {
     initLoggingWrapper();
+    if (!report.readOptions(argc, argv, shortOptions, kLongOptions)) {
+        return -1;
+    }
 
     RunOptions options;
     OptionsResult parsed = readOptions(argc, argv, options);
@@ -330,9 +342,11 @@ int run(int argc, char** argv) {
     int exitCode = 0;
     {
         ModelRepositoryService service(true);
+        ReportSession::Load load(report, options.modelFiles, *service.getModelRepository());
         service.setModelFiles(options.modelFiles);
         service.setMainRootName(options.mainRootName);
         ZefReturnT rc = service.start();
+        load.done(rc == ZefOk);
         if (rc != ZefOk) {
             printLine("Failed to load model files. Got return code " + std::to_string(rc));
         }
@@ -364,9 +378,10 @@ int main(int argc, char** argv) {
     // merged with its free neighbours at once.
     mallopt(M_MXFAST, 0);
 #endif
+    ReportSession report("zef_model_validator", ZEF_VALIDATOR_RELEASE);
     int exitCode;
     try {
-        exitCode = run(argc, argv);
+        exitCode = run(argc, argv, report);
     } catch (const std::exception& e) {
         // Whatever escapes the run ends it with one readable line, never
         // with an abnormal end of the process.
@@ -380,6 +395,7 @@ int main(int argc, char** argv) {
         closeLibraries();
         exitCode = -1;
     }
+    exitCode = report.finish(exitCode);
     std::fflush(stdout);
     Zef::LoggingWrapper::instance()->close();
     return exitCode;

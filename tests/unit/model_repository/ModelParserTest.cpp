@@ -414,6 +414,7 @@ TEST_F(ModelParserTest, AttributesOfTracesEveryAttribute) {
 }
 
 TEST_F(ModelParserTest, CheckThrowExceptionRecordsAndLogsErrorsAndWarnings) {
+    findingsHaveRules = false;
     parser.checkThrowException(3, "bad %s %d", "thing", 7);
     parser.checkThrowException(4, "odd %s", "thing");
     EXPECT_EQ((std::vector<std::string>{"ERROR, ModelParser: bad thing 7", "WARNING, ModelParser: odd thing"}),
@@ -423,6 +424,7 @@ TEST_F(ModelParserTest, CheckThrowExceptionRecordsAndLogsErrorsAndWarnings) {
 }
 
 TEST_F(ModelParserTest, CheckThrowExceptionThrowsErrorsOutsideStandaloneMode) {
+    findingsHaveRules = false;
     repository.setStandalone(false);
     parser.checkThrowException(4, "only a warning");
     expectParserWarning("only a warning");
@@ -436,6 +438,7 @@ TEST_F(ModelParserTest, CheckThrowExceptionThrowsErrorsOutsideStandaloneMode) {
 }
 
 TEST_F(ModelParserTest, ReportSetterResultChoosesTheFormatByResult) {
+    findingsHaveRules = false;
     parser.reportSetterResult(ZefOk, "set %s", "failed %s", "a");
     parser.reportSetterResult(ZefAlreadyExists, "set %s", "failed %s", "b");
     parser.reportSetterResult(ZefInvalidArgument, "set %s", "failed %s", "c");

@@ -10,6 +10,7 @@
 #include "ContWrapper.h"
 #include "DdtWrapper.h"
 #include "EnumWrapper.h"
+#include "FindingRuleCheck.h"
 #include "LogCapture.h"
 #include "MoActionWrapper.h"
 #include "ModelRepository.h"
@@ -25,6 +26,11 @@ namespace {
 class ModelRepositoryTest : public ::testing::Test {
 protected:
     void SetUp() override { repository.setStandalone(true); }
+    void TearDown() override {
+        if (findingsHaveRules) {
+            ZefTest::expectEveryFindingHasItsRule(repository);
+        }
+    }
 
     std::vector<std::string> messages() const {
         return std::vector<std::string>(repository.getMessages().begin(), repository.getMessages().end());
@@ -46,6 +52,8 @@ protected:
 
     ZefTest::LogCapture log;
     ModelRepository repository;
+    // Cleared by a test that reports made-up texts of no rule.
+    bool findingsHaveRules = true;
 };
 
 TEST_F(ModelRepositoryTest, SecondMocOfOneKeyIsRefusedAndTheFirstKept) {
@@ -174,6 +182,7 @@ TEST_F(ModelRepositoryTest, GetMomsOfAnEmptyRepository) {
 }
 
 TEST_F(ModelRepositoryTest, LongMessagesAreCut) {
+    findingsHaveRules = false;
     std::string longText(5000, 'x');
     repository.checkThrowException(4, "%s", longText.c_str());
     ASSERT_EQ(1u, repository.getMessages().size());
@@ -182,6 +191,7 @@ TEST_F(ModelRepositoryTest, LongMessagesAreCut) {
 }
 
 TEST_F(ModelRepositoryTest, OtherLevelsAreRecordedWithoutPrefix) {
+    findingsHaveRules = false;
     repository.checkThrowException(6, "note %d", 7);
     EXPECT_EQ(std::vector<std::string>{"note 7"}, messages());
 }
@@ -377,6 +387,7 @@ TEST_F(DistinguishedNameTest, NameCacheKeepsClassesOfOneName) {
 }
 
 TEST_F(ModelRepositoryTest, CleanupKeepsMessagesAndTheAnyClassMoc) {
+    findingsHaveRules = false;
     MomWrapper* mom = newMom("m", "1");
     ASSERT_EQ(ZefOk, repository.addMom(mom));
     ASSERT_EQ(ZefOk, repository.addMoc(newMoc(mom, "C")));

@@ -23,6 +23,7 @@
 #include "ContWrapper.h"
 #include "DdtWrapper.h"
 #include "EnumWrapper.h"
+#include "FindingRuleCheck.h"
 #include "If2Manager.h"
 #include "LogCapture.h"
 #include "LoggingWrapperTestAccess.h"
@@ -72,6 +73,7 @@ protected:
         for (const std::string& message : takeMessages()) {
             ADD_FAILURE() << "message not taken by the test: \"" << message << "\"";
         }
+        expectEveryFindingHasItsRule(repository);
         ZefModelRepositoryService::If2Manager::instance().cleanup();
     }
 

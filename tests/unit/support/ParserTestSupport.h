@@ -18,6 +18,7 @@
 #include <Poco/DOM/Element.h>
 #include <Poco/DOM/Node.h>
 
+#include "FindingRuleCheck.h"
 #include "LogCapture.h"
 #include "LoggingWrapperTestAccess.h"
 #include "ModelParser.h"
@@ -40,6 +41,9 @@ protected:
         const std::vector<std::string> left = unassertedMessages();
         for (const std::string& message : left) {
             ADD_FAILURE() << "message not asserted by the test: \"" << message << "\"";
+        }
+        if (findingsHaveRules) {
+            expectEveryFindingHasItsRule(repository);
         }
     }
 
@@ -173,6 +177,9 @@ protected:
         Zef::LoggingWrapperTestAccess::flush();
         return _log.messages("WA");
     }
+
+    /// Cleared by a test that reports made-up texts of no rule.
+    bool findingsHaveRules = true;
 
     // Declared first: the logger points at the test's file before the
     // repository and the parser write anything.
