@@ -355,7 +355,10 @@ int run(int argc, char** argv, ReportSession& report) {
         // The plug-ins check the model the repository compiled; a failing
         // one decides the exit status whatever the summary found.
         const ZefOamSpiModelRepository_4* modelIf4 = service.getModelRepository()->getIf4();
-        if (modelIf4 != nullptr && haveStaticValidators() && !runStaticValidators(modelIf4, options.quiet)) {
+        const auto recordPlugin = [&report](const char* name, const char* version, bool passed, const char* result) {
+            report.recordPlugin(name, version, passed, result);
+        };
+        if (modelIf4 != nullptr && haveStaticValidators() && !runStaticValidators(modelIf4, options.quiet, recordPlugin)) {
             exitCode = -9;
         }
 

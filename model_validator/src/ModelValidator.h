@@ -1,6 +1,7 @@
 #ifndef ZEF_MODEL_VALIDATOR_H
 #define ZEF_MODEL_VALIDATOR_H
 
+#include <functional>
 #include <list>
 #include <string>
 
@@ -32,9 +33,14 @@ int getFileContents(const std::string& listFile, std::list<std::string>& files);
 bool loadLibraries(const char* pathList);
 /// Unloads every loaded library and empties both lists.
 void closeLibraries();
-/// Runs every loaded plug-in against the version 4 query interface table;
-/// returns false when any of them reported failure.
-bool runStaticValidators(const struct ZefOamSpiModelRepository_4* modelIf4, bool quiet);
+/// Receives each plug-in's result: its name, version, whether the model
+/// passed, and its result text ("" when unset).
+using StaticValidatorResult = std::function<void(const char* name, const char* version, bool passed, const char* result)>;
+/// Runs every loaded plug-in against the version 4 query interface table,
+/// handing each result to `onResult` (when set); returns false when any of
+/// them reported failure.
+bool runStaticValidators(const struct ZefOamSpiModelRepository_4* modelIf4, bool quiet,
+                         const StaticValidatorResult& onResult = StaticValidatorResult());
 /// True when at least one plug-in is loaded.
 bool haveStaticValidators();
 

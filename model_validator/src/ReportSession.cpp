@@ -44,6 +44,8 @@ bool ReportSession::readOptions(int argc, char** argv, const char* shortOptions,
         return true;
     }
     sayProblem(problem);
+    // A run refused for its options writes no report and keeps its status.
+    _options = ReportOptions();
     return false;
 }
 

@@ -6,8 +6,11 @@ namespace {
 
 const char* const kReplacement = "\xEF\xBF\xBD";
 
-// The length of the well-formed UTF-8 sequence at `at`, or 0.
-size_t sequenceLength(const std::string& text, size_t at) {
+// The length of the well-formed UTF-8 sequence at `at`; when there is
+// none, 0, and in `invalid` the length of the longest start of one (at least
+// one byte), which becomes one U+FFFD as Unicode recommends.
+size_t sequenceLength(const std::string& text, size_t at, size_t& invalid) {
+    invalid = 1;
     const unsigned char lead = static_cast<unsigned char>(text[at]);
     if (lead < 0x80) {
         return 1;
@@ -28,14 +31,15 @@ size_t sequenceLength(const std::string& text, size_t at) {
     } else {
         return 0;
     }
-    if (at + length > text.size()) {
-        return 0;
-    }
     for (size_t index = 1; index < length; ++index) {
+        if (at + index >= text.size()) {
+            return 0;
+        }
         const unsigned char next = static_cast<unsigned char>(text[at + index]);
         if (next < (index == 1 ? low : 0x80) || next > (index == 1 ? high : 0xBF)) {
             return 0;
         }
+        invalid = index + 1;
     }
     return length;
 }
@@ -47,10 +51,11 @@ std::string ReportText::validUtf8(const std::string& text) {
     result.reserve(text.size());
     size_t at = 0;
     while (at < text.size()) {
-        const size_t length = sequenceLength(text, at);
+        size_t invalid = 0;
+        const size_t length = sequenceLength(text, at, invalid);
         if (length == 0) {
             result += kReplacement;
-            ++at;
+            at += invalid;
         } else {
             result.append(text, at, length);
             at += length;

@@ -113,7 +113,8 @@ void closeLibraries() {
 
 bool haveStaticValidators() { return !_ifList.empty(); }
 
-bool runStaticValidators(const struct ZefOamSpiModelRepository_4* modelIf4, bool quiet) {
+bool runStaticValidators(const struct ZefOamSpiModelRepository_4* modelIf4, bool quiet,
+                         const StaticValidatorResult& onResult) {
     bool allPassed = true;
     for (const ZefOamApiStaticValidatorInterface_1* validator : _ifList) {
         const char* result = nullptr;
@@ -123,6 +124,9 @@ bool runStaticValidators(const struct ZefOamSpiModelRepository_4* modelIf4, bool
         const std::string who = std::string(name) + "(" + version + ")";
         // A plug-in that leaves its result unset has nothing to add.
         const char* text = textOf(result);
+        if (onResult) {
+            onResult(name, version, ok != 0, text);
+        }
         if (ok == 0) {
             printLine("    Results of checking dependenciesScripts:");
             printLine(who + " - Validation of model failed: ");
