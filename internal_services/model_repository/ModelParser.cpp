@@ -484,6 +484,18 @@ void ModelParser::reportSetterResult(ZefReturnT result, const char* alreadySetFo
     va_end(args);
 }
 
+void ModelParser::readNameAttribute(Node& element, const std::function<ZefReturnT(const std::string&)>& setName,
+                                    const char* alreadySetFormat, const char* failedFormat) {
+    for (Attr* attr : attributesOf(element)) {
+        if (attr->name() == "name") {
+            const std::string name = getPocoData(attr);
+            reportSetterResult(setName(name), alreadySetFormat, failedFormat, name.c_str());
+        } else {
+            ignoreUnknownAttributeLog(*attr);
+        }
+    }
+}
+
 bool ModelParser::isStatusWord(const std::string& name) {
     return name == "deprecated" || name == "obsolete" || name == "preliminary";
 }

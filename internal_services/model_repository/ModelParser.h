@@ -2,6 +2,7 @@
 #define ZEF_MODEL_PARSER_H
 
 #include <cstdarg>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -103,6 +104,12 @@ public:
     /// reports `alreadySetFormat`, any other result `failedFormat`; both
     /// formats take the same arguments.
     void reportSetterResult(ZefReturnT result, const char* alreadySetFormat, const char* failedFormat, ...);
+    /// Reads the attributes of an element that defines a named record:
+    /// "name" goes to `setName`, whose result reportSetterResult turns into
+    /// a warning (both formats take the name); any other attribute is
+    /// unknown.
+    void readNameAttribute(Node& element, const std::function<ZefReturnT(const std::string&)>& setName,
+                           const char* alreadySetFormat, const char* failedFormat);
     /// True for "deprecated", "obsolete" and "preliminary".
     static bool isStatusWord(const std::string& name);
     /// Applies a status word to an element: "deprecated" sets status 2 and

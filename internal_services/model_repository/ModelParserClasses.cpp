@@ -229,15 +229,9 @@ AttrWrapper* ModelParser::processAttrNode(Node& attribute, MocWrapper& moc) {
     attr->setMoc(&moc.getStruct());
     GeneralPropertiesWrapper& properties = attr->getGeneralProperties();
 
-    for (Attr* item : attributesOf(attribute)) {
-        if (item->name() == "name") {
-            const std::string name = getPocoData(item);
-            reportSetterResult(properties.setName(name), "Name of attr (%s) is already set.",
-                               "Failed to set name of the attr (%s).", name.c_str());
-        } else {
-            ignoreUnknownAttributeLog(*item);
-        }
-    }
+    readNameAttribute(
+        attribute, [&properties](const std::string& name) { return properties.setName(name); },
+        "Name of attr (%s) is already set.", "Failed to set name of the attr (%s).");
     const std::string attrName = properties.getName();
     if (attrName.empty()) {
         attr.reset();
@@ -305,16 +299,10 @@ MoActionWrapper* ModelParser::processActionNode(Node& actionElement, MocWrapper&
     action->setMoc(&moc.getStruct());
     GeneralPropertiesWrapper& properties = action->getGeneralProperties();
 
-    for (Attr* attr : attributesOf(actionElement)) {
-        if (attr->name() == "name") {
-            const std::string name = getPocoData(attr);
-            // The attribute's wording for a failure is the established text.
-            reportSetterResult(properties.setName(name), "Name of action (%s) is already set.",
-                               "Failed to set name of the attr (%s).", name.c_str());
-        } else {
-            ignoreUnknownAttributeLog(*attr);
-        }
-    }
+    // The attribute's wording for a failure is the established text.
+    readNameAttribute(
+        actionElement, [&properties](const std::string& name) { return properties.setName(name); },
+        "Name of action (%s) is already set.", "Failed to set name of the attr (%s).");
     const std::string actionName = properties.getName();
     if (actionName.empty()) {
         action.reset();
@@ -391,16 +379,10 @@ void ModelParser::handleParameter(Node& parameter, MoActionWrapper& action) {
     param->setMoAction(&action);
     GeneralPropertiesWrapper& properties = param->getGeneralProperties();
 
-    for (Attr* attr : attributesOf(parameter)) {
-        if (attr->name() == "name") {
-            const std::string name = getPocoData(attr);
-            // The attribute's wording is the established text for parameters too.
-            reportSetterResult(properties.setName(name), "Name of attr (%s) is already set.",
-                               "Failed to set name of the attr (%s).", name.c_str());
-        } else {
-            ignoreUnknownAttributeLog(*attr);
-        }
-    }
+    // The attribute's wording is the established text for parameters too.
+    readNameAttribute(
+        parameter, [&properties](const std::string& name) { return properties.setName(name); },
+        "Name of attr (%s) is already set.", "Failed to set name of the attr (%s).");
     const std::string paramName = properties.getName();
     if (!parameter.hasChildNodes()) {
         checkThrowException(4, "%s missing sub nodes", paramName.c_str());

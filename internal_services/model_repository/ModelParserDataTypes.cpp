@@ -158,15 +158,9 @@ EnumWrapper* ModelParser::processEnumNode(Node& enumeration, MomWrapper& mom) {
     placeRecord(*record, enumeration);
     record->setMom(&mom.getStruct());
 
-    for (Attr* attr : attributesOf(enumeration)) {
-        if (attr->name() == "name") {
-            const std::string name = getPocoData(attr);
-            reportSetterResult(record->setName(name), "Name of enum (%s) is already set.",
-                               "Failed to set name of the enum (%s).", name.c_str());
-        } else {
-            ignoreUnknownAttributeLog(*attr);
-        }
-    }
+    readNameAttribute(
+        enumeration, [&record](const std::string& name) { return record->setName(name); },
+        "Name of enum (%s) is already set.", "Failed to set name of the enum (%s).");
 
     for (Node* child = enumeration.firstChild(); child != nullptr; child = child->nextSibling()) {
         if (!isElement(*child)) {
@@ -266,15 +260,9 @@ DdtWrapper* ModelParser::processDdtNode(Node& derivedDataType, MomWrapper& mom) 
     placeRecord(*ddt, derivedDataType);
     ddt->setMom(&mom.getStruct());
 
-    for (Attr* attr : attributesOf(derivedDataType)) {
-        if (attr->name() == "name") {
-            const std::string name = getPocoData(attr);
-            reportSetterResult(ddt->setName(name), "Name of ddt (%s) is already set.",
-                               "Failed to set name of the ddt (%s).", name.c_str());
-        } else {
-            ignoreUnknownAttributeLog(*attr);
-        }
-    }
+    readNameAttribute(
+        derivedDataType, [&ddt](const std::string& name) { return ddt->setName(name); },
+        "Name of ddt (%s) is already set.", "Failed to set name of the ddt (%s).");
     const std::string ddtName = ddt->getName();
 
     bool hasValidationRules = false;
@@ -442,15 +430,9 @@ StructWrapper* ModelParser::processStructNode(Node* structure, MomWrapper* mom) 
     placeRecord(*record, *structure);
     record->setMom(&mom->getStruct());
 
-    for (Attr* attr : attributesOf(*structure)) {
-        if (attr->name() == "name") {
-            const std::string name = getPocoData(attr);
-            reportSetterResult(record->setName(name), "Name of struct (%s) is already set.",
-                               "Failed to set name of the struct (%s).", name.c_str());
-        } else {
-            ignoreUnknownAttributeLog(*attr);
-        }
-    }
+    readNameAttribute(
+        *structure, [&record](const std::string& name) { return record->setName(name); },
+        "Name of struct (%s) is already set.", "Failed to set name of the struct (%s).");
     const std::string structName = record->getName();
     const std::string momName = mom->getName();
     const std::string momVersion = mom->getVersion();
@@ -502,16 +484,10 @@ StructMemberWrapper* ModelParser::processStructMemberNode(Node* structMember) {
     std::unique_ptr<StructMemberWrapper> member(new StructMemberWrapper());
     placeRecord(*member, *structMember);
 
-    for (Attr* attr : attributesOf(*structMember)) {
-        if (attr->name() == "name") {
-            const std::string name = getPocoData(attr);
-            // The attribute's wording is the established text for members too.
-            reportSetterResult(member->setName(name), "Name of attr (%s) is already set.",
-                               "Failed to set name of the attr (%s).", name.c_str());
-        } else {
-            ignoreUnknownAttributeLog(*attr);
-        }
-    }
+    // The attribute's wording is the established text for members too.
+    readNameAttribute(
+        *structMember, [&member](const std::string& name) { return member->setName(name); },
+        "Name of attr (%s) is already set.", "Failed to set name of the attr (%s).");
     const std::string memberName = member->getName();
 
     // Every child is read even after an error, so that one parse reports

@@ -87,14 +87,9 @@ void readCardinality(ModelParser& parser, Node& cardinality, const std::string& 
 // attributes are unknown. Returns the name as stored.
 std::string readRelationshipName(ModelParser& parser, Node& relationship, GeneralPropertiesWrapper& properties,
                                  const char* alreadySetFormat, const char* failedFormat) {
-    for (Attr* attr : parser.attributesOf(relationship)) {
-        if (attr->name() == "name") {
-            const std::string name = parser.getPocoData(attr);
-            parser.reportSetterResult(properties.setName(name), alreadySetFormat, failedFormat, name.c_str());
-        } else {
-            parser.ignoreUnknownAttributeLog(*attr);
-        }
-    }
+    parser.readNameAttribute(
+        relationship, [&properties](const std::string& name) { return properties.setName(name); },
+        alreadySetFormat, failedFormat);
     return properties.getName();
 }
 
