@@ -46,6 +46,7 @@ COMPOSED = [
 FORWARDERS = {
     "addRecord": [(2, "error"), (3, "error"), (4, "error")],
     "readRelationshipName": [(3, "warning"), (4, "warning")],
+    "readNameAttribute": [(2, "warning"), (3, "warning")],
     # the texts of the records that addRecord finds incomplete
     "ModelRepository.cpp:format": [(0, "error")],
 }
@@ -297,6 +298,8 @@ def templates_of(source_dir):
                 continue
             if forwarder is not None:
                 for index, level_word in forwarder:
+                    if args[index] in PASSED_ON:
+                        continue
                     # A functor that builds the text holds its templates as literals.
                     values = src.resolve(args[index]) or [unescape(m.group(1)) for m in LITERAL.finditer(args[index])]
                     if not values:
