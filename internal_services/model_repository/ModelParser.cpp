@@ -12,6 +12,7 @@
 #include <Poco/String.h>
 
 #include "DdtWrapper.h"
+#include "ElementPositions.h"
 #include "EnumWrapper.h"
 #include "GeneralPropertiesWrapper.h"
 #include "MocWrapper.h"
@@ -117,12 +118,15 @@ std::unique_ptr<T> hold(T* record) {
 // for as long as parse() reads it.
 class ModelParser::FileBeingParsed {
 public:
-    FileBeingParsed(ModelParser& parser, const std::string* file) : _parser(parser) {
+    FileBeingParsed(ModelParser& parser, const std::string* file, const ElementPositions& positions)
+        : _parser(parser) {
         _parser._file = file;
+        _parser._positions = &positions;
         _parser._reading.clear();
     }
     ~FileBeingParsed() {
         _parser._file = nullptr;
+        _parser._positions = nullptr;
         _parser._reading.clear();
     }
     FileBeingParsed(const FileBeingParsed&) = delete;
@@ -142,9 +146,8 @@ int ModelParser::parse(const std::string& fileName) {
         return -2;
     }
     ZEF_TRACE("Parsing file '%s'", fileName.c_str());
-    const FileBeingParsed file(*this, _repository->noteModelFile(fileName));
-
     Zef::ZefConfiguration document;
+    const FileBeingParsed file(*this, _repository->noteModelFile(fileName), document.positions());
     Node* models = nullptr;
     unsigned long modelsCount = 0;
     try {
@@ -459,9 +462,14 @@ ModelParser::ReadingScope::ReadingScope(ModelParser& parser, Node& element) : _p
 
 ModelParser::ReadingScope::~ReadingScope() { _parser._reading.pop_back(); }
 
-SourceLocation ModelParser::locationOf(Node& /*element*/) const {
+SourceLocation ModelParser::locationOf(Node& element) const {
     SourceLocation location;
     location.file = _file;
+    if (_positions != nullptr) {
+        const ElementPositions::Position position = _positions->positionOf(&element);
+        location.line = position.line;
+        location.column = position.column;
+    }
     return location;
 }
 

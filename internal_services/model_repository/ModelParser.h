@@ -24,6 +24,7 @@ class AttrWrapper;
 class BiDirAssociationWrapper;
 class ContWrapper;
 class DdtWrapper;
+class ElementPositions;
 class EnumWrapper;
 class GeneralPropertiesWrapper;
 class MoActionWrapper;
@@ -224,6 +225,8 @@ private:
     bool _standalone = false;
     // The file being parsed, as the repository keeps its name; null outside parse().
     const std::string* _file = nullptr;
+    // Where the elements of the document being parsed begin; null outside parse().
+    const ElementPositions* _positions = nullptr;
     // The elements being read, innermost last (see ReadingScope).
     std::vector<Node*> _reading;
 };

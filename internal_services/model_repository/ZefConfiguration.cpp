@@ -5,14 +5,20 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <memory>
 
-#include <Poco/DOM/DOMParser.h>
+#include <Poco/DOM/DOMBuilder.h>
 #include <Poco/Exception.h>
-#include <Poco/SAX/InputSource.h>
+#include <Poco/SAX/SAXParser.h>
+#include <Poco/SAX/WhitespaceFilter.h>
+
+#include "PositionFilter.h"
 
 #include "ZefException.h"
 
 namespace Zef {
+
+bool ZefConfiguration::_notePositions = true;
 
 namespace {
 
@@ -90,13 +96,27 @@ void ZefConfiguration::load(const std::string& fileName) {
         break;
     }
 
-    Poco::XML::DOMParser parser;
-    parser.setFeature(Poco::XML::DOMParser::FEATURE_FILTER_WHITESPACE, true);
+    // The chain a DOM parser with the white-space filter builds (namespaces
+    // and their prefixes reported, no name pool given); while positions are
+    // noted, its white-space filter also notes where each element begins.
+    _document = nullptr;
+    _positions.clear();
+    Poco::XML::SAXParser reader;
+    reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACES, true);
+    reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACE_PREFIXES, true);
+    const std::unique_ptr<Poco::XML::WhitespaceFilter> whitespaceFilter(
+        _notePositions ? new ZefModelRepositoryService::PositionFilter(&reader, _positions)
+                       : new Poco::XML::WhitespaceFilter(&reader));
+    Poco::XML::DOMBuilder builder(*whitespaceFilter);
     try {
-        _document = parser.parseMemory(text.data(), text.size());
+        _document = builder.parseMemoryNP(text.data(), text.size());
     } catch (const Poco::Exception& e) {
         _document = nullptr;
+        _positions.clear();
         throw ZefException(e.displayText());
+    }
+    if (_notePositions) {
+        _positions.assignTo(_document.get());
     }
 }
 

@@ -21,9 +21,11 @@ class ReportSession {
 public:
     ReportSession(const std::string& toolName, const std::string& toolVersion);
 
-    /// Reads the report options (ReportOptions::read). On a problem prints
-    /// "zef_model_validator: " and the problem on standard error and returns
-    /// false: the run then ends with exit status 255.
+    /// Reads the report options (ReportOptions::read) and has the model
+    /// files read with the places of their elements only when a report is
+    /// asked for. On a problem prints "zef_model_validator: " and the problem
+    /// on standard error and returns false: the run then ends with exit
+    /// status 255.
     bool readOptions(int argc, char** argv, const char* shortOptions, const struct option* longOptions);
     /// True when the run is to be collected: a report or --strict was asked for.
     bool isActive() const { return _options.wantsReport() || _options.strictness() != ReportOptions::Strictness::Off; }

@@ -62,6 +62,11 @@ protected:
         return finding.location.isKnown() ? *finding.location.file : std::string("(none)");
     }
 
+    /// "line:column" of a finding.
+    static std::string placeOf(const Finding& finding) {
+        return std::to_string(finding.location.line) + ":" + std::to_string(finding.location.column);
+    }
+
     static std::string ruleOf(const Finding& finding) { return finding.rule != nullptr ? finding.rule->id : "(none)"; }
 
     ZefTest::LogCapture log;
@@ -92,6 +97,7 @@ TEST_F(ModelRepositoryFindingsTest, AParserFindingNamesTheFileBeingReadAndItsRul
     EXPECT_EQ(FindingSeverity::Error, found.severity);
     EXPECT_EQ("ModelParser", found.reporter);
     EXPECT_EQ(a, fileOf(found));
+    EXPECT_EQ("4:28", placeOf(found));
     EXPECT_EQ("", found.key);
 }
 
@@ -103,6 +109,7 @@ TEST_F(ModelRepositoryFindingsTest, AValidationFindingPointsAtTheRecordItNames) 
     EXPECT_EQ("moc-no-parent", ruleOf(found));
     EXPECT_EQ("ModelRepository", found.reporter);
     EXPECT_EQ(b, fileOf(found));
+    EXPECT_EQ("4:1", placeOf(found));
     EXPECT_EQ("B~1.0~Lost", found.key);
     ZefTest::expectEveryFindingHasItsRule(repository);
 }
@@ -118,6 +125,7 @@ TEST_F(ModelRepositoryFindingsTest, ACompilationFindingPointsAtTheElementThatHol
     const Finding& found = finding("Attribute (B~1.0~Thing~peer) refers to a Moc (A~1.0~Nowhere) which could not be found.");
     EXPECT_EQ("attribute-moc-ref-not-found", ruleOf(found));
     EXPECT_EQ(b, fileOf(found));
+    EXPECT_EQ("4:1", placeOf(found));
     EXPECT_EQ("B~1.0~Thing~peer", found.key);
     ZefTest::expectEveryFindingHasItsRule(repository);
 }
@@ -129,6 +137,7 @@ TEST_F(ModelRepositoryFindingsTest, ARefusedDuplicateIsNamedByItsOwnElement) {
     const Finding& found = finding("Mom (A~1.0) already added to the list.");
     EXPECT_EQ("mom-duplicate", ruleOf(found));
     EXPECT_EQ(scratch.file("b.xml"), fileOf(found));
+    EXPECT_EQ("2:1", placeOf(found));
     EXPECT_EQ("A~1.0", found.key);
     ZefTest::expectEveryFindingHasItsRule(repository);
 }
@@ -140,6 +149,7 @@ TEST_F(ModelRepositoryFindingsTest, AFindingAboutAWholeMomPointsAtItsMim) {
     const Finding& found = finding("Mom A~1.0 not correct: The namespace is not set. The namespacePrefix is not set.");
     EXPECT_EQ("mom-namespace-and-prefix-missing", ruleOf(found));
     EXPECT_EQ(scratch.file("a.xml"), fileOf(found));
+    EXPECT_EQ("2:1", placeOf(found));
     EXPECT_EQ("A~1.0", found.key);
     ZefTest::expectEveryFindingHasItsRule(repository);
 }
@@ -152,10 +162,12 @@ TEST_F(ModelRepositoryFindingsTest, AFindingAboutAMemberKeyedByItsNameAlonePoint
     const Finding& compiled = finding("StructMember (colour) refers to a Enum (A~1.0~Nope) which could not be found.");
     EXPECT_EQ("member-enum-ref-not-found", ruleOf(compiled));
     EXPECT_EQ(a, fileOf(compiled));
+    EXPECT_EQ("4:21", placeOf(compiled));
     EXPECT_EQ("colour", compiled.key);
     const Finding& validated = finding("Struct Member (colour) has memberType ENUM but pointer to enumDatatype is not set.");
     EXPECT_EQ("struct-member-enum-without-enum", ruleOf(validated));
     EXPECT_EQ(a, fileOf(validated));
+    EXPECT_EQ("4:21", placeOf(validated));
     EXPECT_EQ("colour", validated.key);
     ZefTest::expectEveryFindingHasItsRule(repository);
 }

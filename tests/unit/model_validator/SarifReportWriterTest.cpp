@@ -65,7 +65,11 @@ TEST_F(SarifReportWriterTest, AResultNamesItsRuleLevelMessageAndTheFileRelativeT
                              "                  \"uri\": \"a.xml\",\n"
                              "                  \"uriBaseId\": \"SRCROOT\",\n"
                              "                  \"index\": 0\n"
-                             "                }"))
+                             "                },\n"
+                             "                \"region\": {\n"
+                             "                  \"startLine\": 4,\n"
+                             "                  \"startColumn\": 3\n"
+                             "                }\n"))
         << sarif;
     EXPECT_TRUE(holds(sarif, "\"properties\": {\n"
                              "            \"reporter\": \"ModelRepository\",\n"
