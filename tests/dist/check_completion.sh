@@ -48,8 +48,11 @@ expect_completion "--mainroot" --m
 expect_completion "--help" --h
 expect_completion "--plugins" --pl
 expect_completion "--quiet" --q
-expect_completion "--help|--version|--directory|--config|--plugins|--mainroot|--quiet" --
-expect_completion "-h|-v|-d|-c|-p|-m|-q|--help|--version|--directory|--config|--plugins|--mainroot|--quiet" -
+expect_completion "--list-rules" --l
+expect_completion "--report-format=|--report-file=" --rep
+expect_completion "--strict|--strict=warnings" --st
+expect_completion "--help|--version|--directory|--config|--plugins|--mainroot|--quiet|--list-rules|--report-format=|--report-file=|--strict|--strict=warnings" --
+expect_completion "-h|-v|-d|-c|-p|-m|-q|--help|--version|--directory|--config|--plugins|--mainroot|--quiet|--list-rules|--report-format=|--report-file=|--strict|--strict=warnings" -
 expect_completion "-q" -q
 expect_completion "" --x
 # Model files: *.xml (case as the command sees it) and directories.
@@ -72,6 +75,14 @@ expect_completion "plugins/p.so" -p plugins/
 expect_completion "plugins/p.so" --plugins = plugins/
 # -m: a class name, nothing to offer.
 expect_completion "" -m ""
+# The report options: formats, any file, and the level of --strict after "=" only.
+expect_completion "json|junit|sarif" --report-format ""
+expect_completion "sarif" --report-format = s
+expect_completion "junit|json" --report-format=j
+expect_completion "list.txt" --report-file = lis
+expect_completion "warnings" --strict = ""
+expect_completion "warnings" --strict=w
+expect_completion "a.xml" --strict a
 # After --, model files only, even for words that look like options.
 expect_completion "a.xml|b.xml|models|plugins|with blank" -- ""
 expect_completion "" -- -

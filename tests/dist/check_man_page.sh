@@ -28,7 +28,8 @@ expect_phrase() {
     grep -qF -- "$1" <<< "$(tr -s ' \n' '  ' <<< "$text")" || fail "the page lacks the text: $1"
 }
 
-for option in -h --help -v --version -d --directory -c --config -p --plugins -m --mainroot -q --quiet; do
+for option in -h --help -v --version -d --directory -c --config -p --plugins -m --mainroot -q --quiet \
+              --list-rules --report-format=format --report-file=report; do
     expect_word "$option"
 done
 for variable in ZEF_VALIDATOR_LOGGING_FNAME ZEF_VALIDATOR_LOGGING_LEVEL USER TMPDIR \
@@ -37,7 +38,8 @@ for variable in ZEF_VALIDATOR_LOGGING_FNAME ZEF_VALIDATOR_LOGGING_LEVEL USER TMP
 done
 
 # Section headings.
-for heading in NAME SYNOPSIS DESCRIPTION OPTIONS OUTPUT "EXIT STATUS" ENVIRONMENT "LOG FILE" PLUG-INS EXAMPLES; do
+for heading in NAME SYNOPSIS DESCRIPTION OPTIONS OUTPUT REPORTS "EXIT STATUS" ENVIRONMENT "LOG FILE" PLUG-INS \
+               EXAMPLES; do
     grep -qx -- "$heading" <<< "$text" || fail "the page lacks the section $heading"
 done
 
