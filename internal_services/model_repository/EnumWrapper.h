@@ -2,7 +2,7 @@
 #define ZEF_ENUM_WRAPPER_H
 
 #include <cstdint>
-#include <list>
+#include <vector>
 #include <string>
 #include <unordered_set>
 
@@ -19,7 +19,7 @@ namespace ZefModelRepositoryService {
 /// their next pointers. No two literals share a name or a value.
 class EnumWrapper : public GeneralPropertiesWrapper {
 public:
-    using LiteralList = std::list<LitWrapper*>;
+    using LiteralList = std::vector<LitWrapper*>;
 
     /// An empty enumeration: no name, no MOM, no literals, status 1, handles 0.
     EnumWrapper();

@@ -9,4 +9,21 @@ std::size_t KeyHashIndex::hashOf(const std::string& key)
     return std::hash<std::string>()(key);
 }
 
+void KeyHashIndex::add(std::size_t hash)
+{
+    _hashes.push_back(hash);
+    if (_hashes.size() <= kScanLimit) {
+        return;
+    }
+    if (_positions.empty()) {
+        // The list has just outgrown the scan: every position so far.
+        _positions.reserve(_hashes.size() * 2);
+        for (std::size_t at = 0; at < _hashes.size(); ++at) {
+            _positions.emplace(_hashes[at], at);
+        }
+        return;
+    }
+    _positions.emplace(hash, _hashes.size() - 1);
+}
+
 } // namespace ZefModelRepositoryService

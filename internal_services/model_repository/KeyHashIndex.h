@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <iterator>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace ZefModelRepositoryService {
@@ -15,29 +16,56 @@ namespace ZefModelRepositoryService {
 /// record's key only when its hash matches, instead of copying and
 /// comparing the key of every listed record. The list owner adds the hash
 /// of every record it appends, and never removes one.
+///
+/// A short list is checked by a scan of its hashes, which costs less than
+/// any table; once the list is long, a table from hash to positions answers
+/// without a scan, so that filling a list of n records stays linear in n.
 class KeyHashIndex {
 public:
+    /// Lists up to this length are scanned.
+    static constexpr std::size_t kScanLimit = 32;
+
     /// The hash under which `key` is indexed.
     static std::size_t hashOf(const std::string& key);
 
     /// Notes the key hash of the record just appended to the list.
-    void add(std::size_t hash) { _hashes.push_back(hash); }
+    void add(std::size_t hash);
 
     /// True when `list` (whose records are indexed here, in order) holds a
     /// record whose getId() equals `key` of hash `hash`.
     template <typename List>
     bool contains(const List& list, const std::string& key, std::size_t hash) const
     {
-        for (std::size_t at = 0; at < _hashes.size(); ++at) {
-            if (_hashes[at] == hash && (*std::next(list.begin(), static_cast<long>(at)))->getId() == key) {
+        if (_hashes.size() <= kScanLimit) {
+            for (std::size_t at = 0; at < _hashes.size(); ++at) {
+                if (_hashes[at] == hash && keyAt(list, at) == key) {
+                    return true;
+                }
+            }
+            return false;
+        }
+        const auto candidates = _positions.equal_range(hash);
+        for (auto candidate = candidates.first; candidate != candidates.second; ++candidate) {
+            if (keyAt(list, candidate->second) == key) {
                 return true;
             }
         }
         return false;
     }
 
+    /// Number of records indexed.
+    std::size_t size() const { return _hashes.size(); }
+
 private:
+    template <typename List>
+    static std::string keyAt(const List& list, std::size_t at)
+    {
+        return (*std::next(list.begin(), static_cast<long>(at)))->getId();
+    }
+
     std::vector<std::size_t> _hashes;
+    /// Hash to list position, filled once the list outgrows kScanLimit.
+    std::unordered_multimap<std::size_t, std::size_t> _positions;
 };
 
 } // namespace ZefModelRepositoryService

@@ -20,7 +20,7 @@ namespace {
 /// ones are linked behind the last. Duplicate keys are refused; `keys`
 /// indexes the keys of the list.
 template <typename Member, typename Record>
-ZefReturnT appendToChain(std::list<Member*>& list, KeyHashIndex& keys, Member* member, const Record*& first)
+ZefReturnT appendToChain(std::vector<Member*>& list, KeyHashIndex& keys, Member* member, const Record*& first)
 {
     if (member == nullptr) {
         return ZefNotFound;

@@ -2,7 +2,6 @@
 #define ZEF_MOC_WRAPPER_H
 
 #include <cstdint>
-#include <list>
 #include <string>
 #include <vector>
 
@@ -27,8 +26,8 @@ class UniDirAssociationWrapper;
 /// the class only lists them.
 class MocWrapper : public GeneralPropertiesWrapper {
 public:
-    using AttrList = std::list<AttrWrapper*>;
-    using MoActionList = std::list<MoActionWrapper*>;
+    using AttrList = std::vector<AttrWrapper*>;
+    using MoActionList = std::vector<MoActionWrapper*>;
     using BiDirList = std::vector<BiDirAssociationWrapper*>;
     using UniDirList = std::vector<UniDirAssociationWrapper*>;
 

@@ -209,13 +209,16 @@ public:
     {
     }
 
-    /// Resolves `element`, known under `key`. `holderKey` is the key the
-    /// same-class rule compares a class reference with; `isKey` applies the
-    /// passphrase rule to a passphrase type.
+    /// Resolves `element`, known under its identity key. `holderKey` is the
+    /// key the same-class rule compares a class reference with; `isKey`
+    /// applies the passphrase rule to a passphrase type.
     template <typename Element>
-    void resolve(Element& element, const std::string& key, const std::string& holderKey, bool isKey)
+    void resolve(Element& element, const std::string& holderKey, bool isKey)
     {
-        _key = key;
+        // The key is only read for a text: most elements have a basic type
+        // and, below the trace level, produce none.
+        _element = &element;
+        _keyRead = false;
         RefId& ref = element;
         const ZefOamSpiMrType_3 type = element.getType();
         switch (type) {
@@ -257,11 +260,22 @@ public:
     }
 
 private:
-    template <typename... Args>
-    std::string render(const ResolutionText& text, Args... args) const
+    /// The identity key of the element being resolved, read once.
+    const std::string& key()
     {
-        return text.worded ? CompileReporter::format(text.format, _word, _key.c_str(), args...)
-                           : CompileReporter::format(text.format, _key.c_str(), args...);
+        if (!_keyRead) {
+            _key = _element->getId();
+            _keyRead = true;
+        }
+        return _key;
+    }
+
+    template <typename... Args>
+    std::string render(const ResolutionText& text, Args... args)
+    {
+        const char* const elementKey = key().c_str();
+        return text.worded ? CompileReporter::format(text.format, _word, elementKey, args...)
+                           : CompileReporter::format(text.format, elementKey, args...);
     }
 
     template <typename... Args>
@@ -455,7 +469,9 @@ private:
     const CompileReporter& _reporter;
     const char* _word;
     const ResolutionTexts& _texts;
+    const GeneralPropertiesWrapper* _element = nullptr;
     std::string _key;
+    bool _keyRead = false;
 };
 
 /// The kind word of the members of a container, as the member texts print it.
@@ -477,7 +493,7 @@ void ModelRepository::setAttrsDataType(MocWrapper& moc)
     TypeResolver resolver(*this, reporter, "Attribute", attributeTexts);
     for (AttrWrapper* attr : moc.getAttrsList()) {
         // An attribute may refer to its own class: no holder key.
-        resolver.resolve(*attr, attr->getId(), std::string(), attr->getStruct().isKey);
+        resolver.resolve(*attr, std::string(), attr->getStruct().isKey);
     }
 }
 
@@ -487,7 +503,7 @@ void ModelRepository::setMoActionDataType(MocWrapper& moc)
     TypeResolver resolver(*this, reporter, "Action", actionTexts);
     const std::string mocKey = moc.getId();
     for (MoActionWrapper* action : moc.getMoActionList()) {
-        resolver.resolve(*action, action->getId(), mocKey, false);
+        resolver.resolve(*action, mocKey, false);
         setMoAttributeDatatypeTpl(*action, action->getParameterListFront());
     }
 }
@@ -500,7 +516,7 @@ void ModelRepository::setMoAttributeDatatypeTpl(Container& container, Member* fi
     const std::string containerKey = container.getId();
     for (Member* member = first; member != nullptr; member = member->getNext()) {
         const FindingSubject subject(*this, member);
-        resolver.resolve(*member, member->getId(), containerKey, hasKeyExtension(*member));
+        resolver.resolve(*member, containerKey, hasKeyExtension(*member));
     }
 }
 

@@ -356,84 +356,91 @@ void ModelRepository::checkAttrs(MocWrapper& moc)
 
     for (AttrWrapper* attr : attrs) {
         const FindingSubject subject(*this, attr);
-        const std::string key = attr->getId();
-        const char* id = key.c_str();
+        // The key is read for a finding or a trace only: most attributes
+        // give neither.
+        std::string key;
+        const auto id = [&key, attr]() {
+            if (key.empty()) {
+                key = attr->getId();
+            }
+            return key.c_str();
+        };
         const ZefOamSpiMoAttribute& record = attr->getStruct();
         const int type = record.type;
-        ZEF_TRACE("Checking Attribute (%s)", id);
+        ZEF_TRACE("Checking Attribute (%s)", id());
         if (isBasicType(type)) {
             if (record.derivedDatatype != nullptr) {
-                report(levelError, basicWithDerived, id, type);
+                report(levelError, basicWithDerived, id(), type);
             }
             if (record.enumDatatype != nullptr) {
-                report(levelError, basicWithEnum, id, type);
+                report(levelError, basicWithEnum, id(), type);
             }
             if (record.structDatatype != nullptr) {
-                report(levelError, basicWithStruct, id, type);
+                report(levelError, basicWithStruct, id(), type);
             }
             if (record.referencedMoc != nullptr) {
-                report(levelError, basicWithReference, id, type);
+                report(levelError, basicWithReference, id(), type);
             }
         } else if (type == ZefMrType3Reference) {
             if (record.derivedDatatype != nullptr) {
-                report(levelError, referenceWithDerived, id);
+                report(levelError, referenceWithDerived, id());
             }
             if (record.enumDatatype != nullptr) {
-                report(levelError, referenceWithEnum, id);
+                report(levelError, referenceWithEnum, id());
             }
             if (record.structDatatype != nullptr) {
-                report(levelError, referenceWithStruct, id);
+                report(levelError, referenceWithStruct, id());
             }
             if (record.referencedMoc == nullptr) {
-                report(levelError, referenceWithoutMoc, id);
+                report(levelError, referenceWithoutMoc, id());
             }
         } else if (type == ZefMrType3Enum) {
             if (record.derivedDatatype != nullptr) {
-                report(levelError, enumWithDerived, id);
+                report(levelError, enumWithDerived, id());
             }
             if (record.enumDatatype == nullptr) {
-                report(levelError, enumWithoutEnum, id);
+                report(levelError, enumWithoutEnum, id());
             }
             if (record.structDatatype != nullptr) {
-                report(levelError, enumWithStruct, id);
+                report(levelError, enumWithStruct, id());
             }
             if (record.referencedMoc != nullptr) {
-                report(levelError, enumWithReference, id);
+                report(levelError, enumWithReference, id());
             }
         } else if (type == ZefMrType3Derived) {
             if (record.enumDatatype != nullptr) {
-                report(levelError, derivedWithEnum, id);
+                report(levelError, derivedWithEnum, id());
             }
             if (record.structDatatype != nullptr) {
-                report(levelError, derivedWithStruct, id);
+                report(levelError, derivedWithStruct, id());
             }
             if (record.referencedMoc != nullptr) {
-                report(levelError, derivedWithReference, id);
+                report(levelError, derivedWithReference, id());
             }
             if (record.derivedDatatype == nullptr) {
-                report(levelError, derivedWithoutDdt, id);
+                report(levelError, derivedWithoutDdt, id());
             }
             for (const std::string& value : nonConformingDefaults(record.derivedDatatype, record.defaultValue,
                                                                   attr->getTypeContainer(), matches)) {
-                report(levelError, attrDefaultBreaksPattern, id, value.c_str(), record.derivedDatatype->pattern);
+                report(levelError, attrDefaultBreaksPattern, id(), value.c_str(), record.derivedDatatype->pattern);
             }
         } else if (type == ZefMrType3Struct) {
             if (record.derivedDatatype != nullptr) {
-                report(levelError, structWithDerived, id);
+                report(levelError, structWithDerived, id());
             }
             if (record.enumDatatype != nullptr) {
-                report(levelError, structWithEnum, id);
+                report(levelError, structWithEnum, id());
             }
             if (record.structDatatype == nullptr) {
-                report(levelError, structWithoutStruct, id);
+                report(levelError, structWithoutStruct, id());
             }
             if (record.referencedMoc != nullptr) {
-                report(levelError, structWithReference, id);
+                report(levelError, structWithReference, id());
             }
         } else if (type == ZefMrType3Void) {
-            report(levelError, voidAttr, id);
+            report(levelError, voidAttr, id());
         } else {
-            report(levelWarning, unknownAttrType, id, type);
+            report(levelWarning, unknownAttrType, id(), type);
         }
     }
 

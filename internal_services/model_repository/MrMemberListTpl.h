@@ -1,7 +1,7 @@
 #ifndef ZEF_MR_MEMBER_LIST_TPL_H
 #define ZEF_MR_MEMBER_LIST_TPL_H
 
-#include <list>
+#include <vector>
 #include <string>
 
 #include "KeyHashIndex.h"
@@ -21,7 +21,7 @@ namespace ZefModelRepositoryService {
 template <typename T>
 class MrMemberListTpl {
 public:
-    using List = std::list<T*>;
+    using List = std::vector<T*>;
 
     MrMemberListTpl() = default;
     /// Destroys every member: the container owns its members.

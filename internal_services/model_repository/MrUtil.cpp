@@ -215,13 +215,22 @@ std::string typeName(int typeCode)
 
 std::string joinKey(std::initializer_list<const char*> parts)
 {
+    // Every record builds its key here once: one allocation of the final
+    // length, the parts appended in place.
+    size_t length = parts.size() > 0 ? parts.size() - 1 : 0;
+    for (const char* part : parts) {
+        length += part != nullptr ? std::strlen(part) : 0;
+    }
     std::string key;
+    key.reserve(length);
     bool first = true;
     for (const char* part : parts) {
         if (!first) {
             key += '~';
         }
-        key += str(part);
+        if (part != nullptr) {
+            key += part;
+        }
         first = false;
     }
     return key;

@@ -88,7 +88,8 @@ ZefReturnT TypeContainerWrapper::getReferencedMoc(uint64_t& handle) const
 
 ZefReturnT TypeContainerWrapper::getDefaultValue(const char* const*& values) const
 {
-    values = _defaultValues;
+    static const char* const noValues[1] = {nullptr};
+    values = _defaultValues != nullptr ? _defaultValues : noValues;
     return ZefOk;
 }
 

@@ -78,7 +78,9 @@ private:
     const ZefOamSpiDatatypeContainer* _container = nullptr;
     const AttrWrapper* _attr = nullptr;
     /// Always a valid array: the values added so far and a null terminator.
-    char** _defaultValues = new char* [1] { nullptr };
+    /// The default values, null-terminated; null (read as an empty array)
+    /// until the first one is added, as most elements have none.
+    char** _defaultValues = nullptr;
     size_t _defaultValueCount = 0;
     uint64_t _handle = 0;
 };

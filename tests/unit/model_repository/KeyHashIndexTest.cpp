@@ -3,6 +3,7 @@
 #include <list>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "KeyHashIndex.h"
 
@@ -19,11 +20,13 @@ struct Keyed {
 
 /// A list of records and its index, filled as the list owners fill theirs.
 struct IndexedList {
-    void add(const std::string& key)
+    void add(const std::string& key) { addWithHash(key, KeyHashIndex::hashOf(key)); }
+    /// As add, under a hash of the test's choice (to make hashes collide).
+    void addWithHash(const std::string& key, std::size_t hash)
     {
         owned.emplace_back(new Keyed(key));
         list.push_back(owned.back().get());
-        index.add(KeyHashIndex::hashOf(key));
+        index.add(hash);
     }
     bool contains(const std::string& key) const { return index.contains(list, key, KeyHashIndex::hashOf(key)); }
 
@@ -67,4 +70,67 @@ TEST(KeyHashIndexTest, AMatchingHashIsConfirmedByTheListedKey)
     // The hash of "a" with another key: the listed record's key decides.
     EXPECT_FALSE(l.index.contains(l.list, "b", KeyHashIndex::hashOf("a")));
     EXPECT_TRUE(l.index.contains(l.list, "a", KeyHashIndex::hashOf("a")));
+}
+
+TEST(KeyHashIndexTest, ScanLimitIsThirtyTwo)
+{
+    EXPECT_EQ(32u, KeyHashIndex::kScanLimit);
+}
+
+TEST(KeyHashIndexTest, LongListAnswersAsALoopOverTheList)
+{
+    // Past the scan limit the table answers; the answer must stay the one a
+    // walk over the list comparing every key gives, at every length.
+    IndexedList l;
+    std::vector<std::string> keys;
+    for (int i = 0; i < 300; ++i) {
+        const std::string key = "m~1~C~attr" + std::to_string(i);
+        for (const std::string& probe : {key, keys.empty() ? std::string("none") : keys.front(),
+                                         keys.empty() ? std::string("none") : keys.back()}) {
+            bool listed = false;
+            for (const Keyed* record : l.list) {
+                listed = listed || record->getId() == probe;
+            }
+            EXPECT_EQ(listed, l.contains(probe)) << "length " << i << ", key " << probe;
+        }
+        l.add(key);
+        keys.push_back(key);
+        EXPECT_EQ(keys.size(), l.index.size());
+    }
+    for (const std::string& key : keys) {
+        EXPECT_TRUE(l.contains(key)) << key;
+    }
+    EXPECT_FALSE(l.contains("m~1~C~attr300"));
+    EXPECT_FALSE(l.contains("m~1~C~"));
+}
+
+TEST(KeyHashIndexTest, CollidingHashesAreToldApartByTheKeysInShortAndLongLists)
+{
+    for (const int length : {3, 100}) {
+        IndexedList l;
+        for (int i = 0; i < length; ++i) {
+            // Every record under one hash: only the keys can tell them apart.
+            l.addWithHash("k" + std::to_string(i), 7);
+        }
+        for (int i = 0; i < length; ++i) {
+            EXPECT_TRUE(l.index.contains(l.list, "k" + std::to_string(i), 7)) << length << " " << i;
+        }
+        EXPECT_FALSE(l.index.contains(l.list, "k" + std::to_string(length), 7)) << length;
+        EXPECT_FALSE(l.index.contains(l.list, "k0", 8)) << length;
+    }
+}
+
+TEST(KeyHashIndexTest, WorksOverAVectorAsOverAList)
+{
+    std::vector<std::unique_ptr<Keyed>> owned;
+    std::vector<Keyed*> list;
+    KeyHashIndex index;
+    for (int i = 0; i < 50; ++i) {
+        owned.emplace_back(new Keyed("v" + std::to_string(i)));
+        list.push_back(owned.back().get());
+        index.add(KeyHashIndex::hashOf(list.back()->key));
+    }
+    EXPECT_TRUE(index.contains(list, "v0", KeyHashIndex::hashOf("v0")));
+    EXPECT_TRUE(index.contains(list, "v49", KeyHashIndex::hashOf("v49")));
+    EXPECT_FALSE(index.contains(list, "v50", KeyHashIndex::hashOf("v50")));
 }
