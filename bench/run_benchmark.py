@@ -20,6 +20,8 @@ ratios to the bare parse; then checks the targets on the 64 MB sets.
 """
 
 import argparse
+import hashlib
+import math
 import os
 import shutil
 import statistics
@@ -57,8 +59,9 @@ def set_size(folder):
 def ensure_set(data, name, size_mb, single, seed):
     folder = os.path.join(data, name)
     stamp = os.path.join(folder, ".options")
-    options = "size=%s single=%s seed=%d generator=%d" % (
-        size_mb, single, seed, int(os.path.getmtime(os.path.join(HERE, "gen_models.py"))))
+    with open(os.path.join(HERE, "gen_models.py"), "rb") as f:
+        generator = hashlib.sha256(f.read()).hexdigest()[:16]
+    options = "size=%s single=%s seed=%d generator=%s" % (size_mb, single, seed, generator)
     if os.path.exists(stamp) and open(stamp).read() == options:
         return folder
     argv = [sys.executable, os.path.join(HERE, "gen_models.py"), "--out", folder, "--size-mb", str(size_mb),
@@ -159,7 +162,7 @@ def main():
         checks.append(("%s within %.1fx the bare parse" % (name, limit), wall, cpu, limit))
     ladder = [s for s in (16, 32, 64) if s in sizes]
     for small, large in zip(ladder, ladder[1:]):
-        steps = (large / small).bit_length() - 1
+        steps = int(round(math.log2(large / small)))
         for name in ("level3", "level8"):
             wall = (med("%g MB" % large, name, 0) / med("%g MB" % small, name, 0)) ** (1.0 / steps)
             cpu = (med("%g MB" % large, name, 1) / med("%g MB" % small, name, 1)) ** (1.0 / steps)

@@ -25,8 +25,8 @@ public:
     /// A new record with the same domain, name and value and handle 0; owned by the caller.
     DomainExtensionWrapper* clone() const;
 
-    const std::string& getDomain() const { return _domain; }
-    const std::string& getName() const { return _name; }
+    const std::string& getDomain() const { return *_domain; }
+    const std::string& getName() const { return *_name; }
     const std::string& getValue() const { return _value; }
 
     /// Query handle; 0 until the query interface has registered the record.
@@ -34,8 +34,10 @@ public:
     void setHandle(uint64_t handle) { _handle = handle; }
 
 private:
-    std::string _domain;
-    std::string _name;
+    // Domains and names repeat across a model ("QCIM", "isNillable"): one
+    // pooled copy each.
+    const std::string* _domain;
+    const std::string* _name;
     std::string _value;
     uint64_t _handle = 0;
 };

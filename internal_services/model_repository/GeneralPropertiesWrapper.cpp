@@ -1,12 +1,17 @@
 #include "GeneralPropertiesWrapper.h"
 
 #include "MrUtil.h"
+#include "TextPool.h"
 
 namespace ZefModelRepositoryService {
 
 namespace {
 
-const char* const kStatusCurrent = "CURRENT";
+const std::string& statusCurrent()
+{
+    static const std::string& text = TextPool::shared("CURRENT");
+    return text;
+}
 
 /// A first-value-wins string field of the fragment.
 ZefReturnT setOnce(char*& field, const std::string& text)
@@ -26,13 +31,13 @@ char* copyOrNull(const char* text)
 } // namespace
 
 GeneralPropertiesWrapper::GeneralPropertiesWrapper(ZefOamSpiGeneralProperties& gp, uint64_t* handleSlot)
-    : _gp(gp), _status3(kStatusCurrent), _handleSlot(handleSlot != nullptr ? handleSlot : &_ownHandle)
+    : _gp(gp), _status3(&statusCurrent()), _handleSlot(handleSlot != nullptr ? handleSlot : &_ownHandle)
 {
 }
 
 GeneralPropertiesWrapper::GeneralPropertiesWrapper(ZefOamSpiGeneralProperties& gp,
                                                    const GeneralPropertiesWrapper& source)
-    : _gp(gp), _status3(kStatusCurrent), _handleSlot(&_ownHandle)
+    : _gp(gp), _status3(&statusCurrent()), _handleSlot(&_ownHandle)
 {
     MrUtil::resetGeneralPropertiesHlp(_gp);
     copyGeneralPropertiesFrom(source);
@@ -97,14 +102,14 @@ ZefReturnT GeneralPropertiesWrapper::setStatus_3(const std::string& status)
     if (status.empty()) {
         return ZefInvalidArgument;
     }
-    _status3 = status;
+    _status3 = &TextPool::shared(status);
     return ZefOk;
 }
 
 void GeneralPropertiesWrapper::setInitialValues()
 {
     MrUtil::resetGeneralPropertiesHlp(_gp);
-    _status3 = kStatusCurrent;
+    _status3 = &statusCurrent();
 }
 
 std::string GeneralPropertiesWrapper::getId() const

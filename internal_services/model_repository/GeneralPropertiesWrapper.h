@@ -70,7 +70,7 @@ public:
     /// ZefInvalidArgument for the empty text.
     ZefReturnT setStatus_3(const std::string& status);
     /// The status text, "CURRENT" until set.
-    const std::string& getStatus3() const { return _status3; }
+    const std::string& getStatus3() const { return *_status3; }
     /// Resets the fragment (all strings null, status 1) and the status text
     /// to "CURRENT". Strings held before are not freed.
     void setInitialValues();
@@ -113,7 +113,8 @@ protected:
 
 private:
     ZefOamSpiGeneralProperties& _gp;
-    std::string _status3;
+    /// The status text, pooled: every record of a model has one of a few.
+    const std::string* _status3;
     std::vector<DomainExtensionWrapper*> _domainExtensions;
     uint64_t _ownHandle = 0;
     uint64_t* _handleSlot;

@@ -4,7 +4,13 @@ namespace ZefModelRepositoryService {
 
 std::string RefId::getRefId() const
 {
-    return _refMomName + "~" + _refMomVersion + "~" + _refName;
+    return getRefMomName() + "~" + getRefMomVersion() + "~" + getRefName();
+}
+
+const std::string& RefId::none()
+{
+    static const std::string empty;
+    return empty;
 }
 
 } // namespace ZefModelRepositoryService

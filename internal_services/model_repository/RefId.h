@@ -1,6 +1,7 @@
 #ifndef ZEF_REF_ID_H
 #define ZEF_REF_ID_H
 
+#include <memory>
 #include <string>
 
 namespace ZefModelRepositoryService {
@@ -13,21 +14,45 @@ public:
     RefId() = default;
     virtual ~RefId() = default;
 
-    void setRefName(const std::string& name) { _refName = name; }
-    const std::string& getRefName() const { return _refName; }
-    void setRefMomName(const std::string& momName) { _refMomName = momName; }
-    const std::string& getRefMomName() const { return _refMomName; }
-    void setRefMomVersion(const std::string& momVersion) { _refMomVersion = momVersion; }
-    const std::string& getRefMomVersion() const { return _refMomVersion; }
+    RefId(const RefId& other) { *this = other; }
+    RefId& operator=(const RefId& other)
+    {
+        if (this != &other) {
+            _parts.reset(other._parts ? new Parts(*other._parts) : nullptr);
+        }
+        return *this;
+    }
+
+    void setRefName(const std::string& name) { parts().name = name; }
+    const std::string& getRefName() const { return _parts ? _parts->name : none(); }
+    void setRefMomName(const std::string& momName) { parts().momName = momName; }
+    const std::string& getRefMomName() const { return _parts ? _parts->momName : none(); }
+    void setRefMomVersion(const std::string& momVersion) { parts().momVersion = momVersion; }
+    const std::string& getRefMomVersion() const { return _parts ? _parts->momVersion : none(); }
 
     /// The target's identity key: mom name ~ mom version ~ name. Empty parts
     /// give empty segments; nothing is logged.
     std::string getRefId() const;
 
 private:
-    std::string _refName;
-    std::string _refMomName;
-    std::string _refMomVersion;
+    struct Parts {
+        std::string name;
+        std::string momName;
+        std::string momVersion;
+    };
+
+    /// The parts, created empty by the first setter: most typed elements
+    /// of a model have a basic type and never name a target.
+    Parts& parts()
+    {
+        if (!_parts) {
+            _parts.reset(new Parts());
+        }
+        return *_parts;
+    }
+    static const std::string& none();
+
+    std::unique_ptr<Parts> _parts;
 };
 
 } // namespace ZefModelRepositoryService

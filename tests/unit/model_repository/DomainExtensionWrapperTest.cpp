@@ -31,3 +31,17 @@ TEST(DomainExtensionWrapperTest, IsNotCopyableButClonesExplicitly)
     EXPECT_EQ("V", clone->getValue());
     EXPECT_EQ(0u, clone->getHandle());
 }
+
+TEST(DomainExtensionWrapperTest, RecordsOfOneDomainAndNameKeepTheirOwnValues)
+{
+    DomainExtensionWrapper first("QCIM", "qcimMomName", "A");
+    DomainExtensionWrapper second("QCIM", "qcimMomName", "B");
+    EXPECT_EQ("A", first.getValue());
+    EXPECT_EQ("B", second.getValue());
+    // Domain and name are held once for all records.
+    EXPECT_EQ(&first.getDomain(), &second.getDomain());
+    EXPECT_EQ(&first.getName(), &second.getName());
+    DomainExtensionWrapper other("X", "qcimMomName", "A");
+    EXPECT_EQ("X", other.getDomain());
+    EXPECT_NE(&first.getDomain(), &other.getDomain());
+}

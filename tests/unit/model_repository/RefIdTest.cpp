@@ -36,3 +36,29 @@ TEST(RefIdTest, LaterValuesReplaceEarlierOnes)
     EXPECT_EQ("m", ref.getRefMomName());
     static_assert(std::has_virtual_destructor<RefId>::value, "RefId is polymorphic");
 }
+
+TEST(RefIdTest, NewReferenceReadsEmptyParts)
+{
+    const RefId ref;
+    EXPECT_EQ("", ref.getRefName());
+    EXPECT_EQ("", ref.getRefMomName());
+    EXPECT_EQ("", ref.getRefMomVersion());
+}
+
+TEST(RefIdTest, CopyHoldsItsOwnParts)
+{
+    RefId ref;
+    ref.setRefName("C");
+    ref.setRefMomName("m");
+    RefId copy(ref);
+    EXPECT_EQ("m~~C", copy.getRefId());
+    copy.setRefName("D");
+    EXPECT_EQ("m~~C", ref.getRefId());
+    EXPECT_EQ("m~~D", copy.getRefId());
+
+    RefId empty;
+    copy = empty;
+    EXPECT_EQ("~~", copy.getRefId());
+    empty = ref;
+    EXPECT_EQ("m~~C", empty.getRefId());
+}
