@@ -81,9 +81,9 @@ std::string AttrWrapper::getAttrId(const ZefOamSpiMoAttribute* attr)
 std::string AttrWrapper::getId() const
 {
     if (_id.empty()) {
-        _id = getAttrId(&_attr);
+        _id.set(getAttrId(&_attr));
     }
-    return _id;
+    return _id.str();
 }
 
 ZefReturnT AttrWrapper::setMoc(const ZefOamSpiMoc* moc)

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "CachedKey.h"
 #include "GeneralPropertiesWrapper.h"
 #include "RefId.h"
 #include "TypeContainerWrapper.h"
@@ -118,7 +119,7 @@ private:
     bool _isRestricted = false;
     bool _isNotifiable = true;
     TypeContainerWrapper _typeContainer;
-    mutable std::string _id;
+    mutable CachedKey _id;
 };
 
 } // namespace ZefModelRepositoryService

@@ -66,9 +66,9 @@ std::string MoActionWrapper::getMoActionId(const ZefOamSpiMoAction* action)
 std::string MoActionWrapper::getId() const
 {
     if (_id.empty()) {
-        _id = getMoActionId(&_action);
+        _id.set(getMoActionId(&_action));
     }
-    return _id;
+    return _id.str();
 }
 
 ZefReturnT MoActionWrapper::setMoc(const ZefOamSpiMoc* moc)

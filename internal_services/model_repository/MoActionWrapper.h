@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "CachedKey.h"
 #include "GeneralPropertiesWrapper.h"
 #include "MrMemberListTpl.h"
 #include "ParameterWrapper.h"
@@ -78,7 +79,7 @@ private:
     ZefOamSpiMoAction _action;
     MrMemberListTpl<ParameterWrapper> _parameters;
     MoActionWrapper* _next = nullptr;
-    mutable std::string _id;
+    mutable CachedKey _id;
 };
 
 } // namespace ZefModelRepositoryService

@@ -1,8 +1,9 @@
 #ifndef ZEF_REF_ID_H
 #define ZEF_REF_ID_H
 
-#include <memory>
 #include <string>
+
+#include "TextPool.h"
 
 namespace ZefModelRepositoryService {
 
@@ -14,45 +15,26 @@ public:
     RefId() = default;
     virtual ~RefId() = default;
 
-    RefId(const RefId& other) { *this = other; }
-    RefId& operator=(const RefId& other)
-    {
-        if (this != &other) {
-            _parts.reset(other._parts ? new Parts(*other._parts) : nullptr);
-        }
-        return *this;
-    }
+    RefId(const RefId&) = default;
+    RefId& operator=(const RefId&) = default;
 
-    void setRefName(const std::string& name) { parts().name = name; }
-    const std::string& getRefName() const { return _parts ? _parts->name : none(); }
-    void setRefMomName(const std::string& momName) { parts().momName = momName; }
-    const std::string& getRefMomName() const { return _parts ? _parts->momName : none(); }
-    void setRefMomVersion(const std::string& momVersion) { parts().momVersion = momVersion; }
-    const std::string& getRefMomVersion() const { return _parts ? _parts->momVersion : none(); }
+    void setRefName(const std::string& name) { _name = &TextPool::shared(name); }
+    const std::string& getRefName() const { return *_name; }
+    void setRefMomName(const std::string& momName) { _momName = &TextPool::shared(momName); }
+    const std::string& getRefMomName() const { return *_momName; }
+    void setRefMomVersion(const std::string& momVersion) { _momVersion = &TextPool::shared(momVersion); }
+    const std::string& getRefMomVersion() const { return *_momVersion; }
 
     /// The target's identity key: mom name ~ mom version ~ name. Empty parts
     /// give empty segments; nothing is logged.
     std::string getRefId() const;
 
 private:
-    struct Parts {
-        std::string name;
-        std::string momName;
-        std::string momVersion;
-    };
-
-    /// The parts, created empty by the first setter: most typed elements
-    /// of a model have a basic type and never name a target.
-    Parts& parts()
-    {
-        if (!_parts) {
-            _parts.reset(new Parts());
-        }
-        return *_parts;
-    }
-    static const std::string& none();
-
-    std::unique_ptr<Parts> _parts;
+    // Pooled texts: the elements of a model name the same few MOMs,
+    // versions and targets over and over.
+    const std::string* _name = &TextPool::empty();
+    const std::string* _momName = &TextPool::empty();
+    const std::string* _momVersion = &TextPool::empty();
 };
 
 } // namespace ZefModelRepositoryService

@@ -30,10 +30,21 @@ TypeContainerWrapper::TypeContainerWrapper(const AttrWrapper* attr) : _attr(attr
 
 TypeContainerWrapper::~TypeContainerWrapper()
 {
-    for (size_t i = 0; i < _defaultValueCount; ++i) {
+    for (size_t i = 0; i < defaultValueCount(); ++i) {
         delete[] _defaultValues[i];
     }
     delete[] _defaultValues;
+}
+
+size_t TypeContainerWrapper::defaultValueCount() const
+{
+    // The array's terminator counts them: no counter in every element for
+    // the few that have default values.
+    size_t count = 0;
+    while (_defaultValues != nullptr && _defaultValues[count] != nullptr) {
+        ++count;
+    }
+    return count;
 }
 
 TypeContainerWrapper::Fields TypeContainerWrapper::fields() const
@@ -121,15 +132,15 @@ ZefReturnT TypeContainerWrapper::addDefaultValue(const std::string& text)
 {
     // A new array of count + 1 entries plus the terminator keeps the values
     // in the order added and the array readable at any time.
-    char** grown = new char*[_defaultValueCount + 2];
-    for (size_t i = 0; i < _defaultValueCount; ++i) {
+    const size_t count = defaultValueCount();
+    char** grown = new char*[count + 2];
+    for (size_t i = 0; i < count; ++i) {
         grown[i] = _defaultValues[i];
     }
-    grown[_defaultValueCount] = MrUtil::toChar(text);
-    grown[_defaultValueCount + 1] = nullptr;
+    grown[count] = MrUtil::toChar(text);
+    grown[count + 1] = nullptr;
     delete[] _defaultValues;
     _defaultValues = grown;
-    ++_defaultValueCount;
     return ZefOk;
 }
 

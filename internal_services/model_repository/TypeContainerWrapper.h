@@ -74,6 +74,8 @@ private:
         bool isUnique;
     };
     Fields fields() const;
+    /// The number of default values held.
+    size_t defaultValueCount() const;
 
     const ZefOamSpiDatatypeContainer* _container = nullptr;
     const AttrWrapper* _attr = nullptr;
@@ -81,7 +83,6 @@ private:
     /// The default values, null-terminated; null (read as an empty array)
     /// until the first one is added, as most elements have none.
     char** _defaultValues = nullptr;
-    size_t _defaultValueCount = 0;
     uint64_t _handle = 0;
 };
 

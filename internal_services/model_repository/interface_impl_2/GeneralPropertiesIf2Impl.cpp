@@ -132,14 +132,20 @@ ZefReturnT GeneralPropertiesIf2Impl::getDomainExtention(const char* domain, cons
 ZefReturnT GeneralPropertiesIf2Impl::getDomainExtensions(const uint64_t*& handles) const
 {
     // Rebuilt on every call: extensions may be added after registration.
-    _domainExtensionHandles.clear();
+    // Kept apart from the object, which every element of a model has while
+    // few are ever asked for this list.
+    if (!_domainExtensionHandles) {
+        _domainExtensionHandles.reset(new std::vector<uint64_t>());
+    }
+    std::vector<uint64_t>& list = *_domainExtensionHandles;
+    list.clear();
     for (const DomainExtensionWrapper* extension : _gp.getDomainExtensions()) {
         if (extension->getHandle() != 0) {
-            _domainExtensionHandles.push_back(extension->getHandle());
+            list.push_back(extension->getHandle());
         }
     }
-    _domainExtensionHandles.push_back(0);
-    handles = _domainExtensionHandles.data();
+    list.push_back(0);
+    handles = list.data();
     return ZefOk;
 }
 

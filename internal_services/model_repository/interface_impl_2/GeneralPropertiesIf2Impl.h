@@ -2,6 +2,7 @@
 #define ZEF_GENERAL_PROPERTIES_IF2_IMPL_H
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "BaseIf2Impl.h"
@@ -54,7 +55,7 @@ public:
 
 private:
     GeneralPropertiesWrapper& _gp;
-    mutable std::vector<uint64_t> _domainExtensionHandles;
+    mutable std::unique_ptr<std::vector<uint64_t>> _domainExtensionHandles;
 };
 
 } // namespace ZefModelRepositoryService
