@@ -46,7 +46,7 @@ public:
 
     private:
         ReportSession& _session;
-        const std::list<std::string>& _modelFiles;
+        const std::list<std::string> _modelFiles;
         const ZefModelRepositoryService::ModelRepository& _repository;
         bool _recorded = false;
     };
