@@ -23,6 +23,7 @@
 
 #include <Poco/String.h>
 
+#include "CommandLineOptions.h"
 #include "ModelRepositoryService.h"
 #include "ReportSession.h"
 #include "RuleList.h"
@@ -31,25 +32,9 @@
 
 using ZefModelRepositoryService::ModelRepositoryService;
 
-const char* shortOptions = "vhc:d:p:qm:";
 const char* version = ZEF_VALIDATOR_VERSION;
 
 namespace {
-
-const struct option kLongOptions[] = {
-    {"help", no_argument, nullptr, 'h'},
-    {"version", no_argument, nullptr, 'v'},
-    {"directory", required_argument, nullptr, 'd'},
-    {"config", required_argument, nullptr, 'c'},
-    {"plugins", required_argument, nullptr, 'p'},
-    {"mainroot", required_argument, nullptr, 'm'},
-    {"quiet", no_argument, nullptr, 'q'},
-    ReportOptions::entries[0],
-    ReportOptions::entries[1],
-    ReportOptions::entries[2],
-    ReportOptions::entries[3],
-    {nullptr, 0, nullptr, 0},
-};
 
 const size_t kReadBlockSize = 8192;
 
@@ -229,7 +214,7 @@ struct RunOptions {
 
 OptionsResult readOptions(int argc, char** argv, RunOptions& run) {
     int opt;
-    while ((opt = getopt_long(argc, argv, shortOptions, kLongOptions, nullptr)) != -1) {
+    while ((opt = getopt_long(argc, argv, kValidatorShortOptions, validatorLongOptions(), nullptr)) != -1) {
         switch (opt) {
         case 'h':
             displayHelp();
@@ -318,7 +303,7 @@ int printSummary(ModelRepositoryService& service, bool quiet) {
 
 int run(int argc, char** argv, ReportSession& report) {
     initLoggingWrapper();
-    if (!report.readOptions(argc, argv, shortOptions, kLongOptions)) {
+    if (!report.readOptions(argc, argv, kValidatorShortOptions, validatorLongOptions())) {
         return -1;
     }
 

@@ -13,18 +13,8 @@ using ZefModelRepositoryService::FindingSeverity;
 
 namespace {
 
-// The SARIF level of a severity.
-const char* levelOf(FindingSeverity severity) {
-    switch (severity) {
-    case FindingSeverity::Error:
-        return "error";
-    case FindingSeverity::Warning:
-        return "warning";
-    case FindingSeverity::Note:
-        return "note";
-    }
-    return "none";
-}
+// SARIF names its levels as the findings name their severities.
+const char* levelOf(FindingSeverity severity) { return severityName(severity); }
 
 void artifactLocation(JsonWriter& json, const ArtifactUri& uri, int64_t index) {
     json.key("artifactLocation");

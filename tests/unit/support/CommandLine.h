@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "ReportOptions.h"
+#include "CommandLineOptions.h"
 
 namespace ZefTest {
 
@@ -37,24 +37,8 @@ public:
     }
 
     /// The short options and the long-option table of the validator.
-    static const char* shortOptions() { return "vhc:d:p:qm:"; }
-    static const struct option* longOptions() {
-        static const struct option table[] = {
-            {"help", no_argument, nullptr, 'h'},
-            {"version", no_argument, nullptr, 'v'},
-            {"directory", required_argument, nullptr, 'd'},
-            {"config", required_argument, nullptr, 'c'},
-            {"plugins", required_argument, nullptr, 'p'},
-            {"mainroot", required_argument, nullptr, 'm'},
-            {"quiet", no_argument, nullptr, 'q'},
-            ReportOptions::entries[0],
-            ReportOptions::entries[1],
-            ReportOptions::entries[2],
-            ReportOptions::entries[3],
-            {nullptr, 0, nullptr, 0},
-        };
-        return table;
-    }
+    static const char* shortOptions() { return kValidatorShortOptions; }
+    static const struct option* longOptions() { return validatorLongOptions(); }
 
 private:
     std::vector<std::string> _words;
