@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdint>
 #include <memory>
 
 #include <Poco/DOM/DOMBuilder.h>
@@ -12,9 +13,14 @@
 #include <Poco/SAX/SAXParser.h>
 #include <Poco/SAX/WhitespaceFilter.h>
 
+#include "EntityExpansionFilter.h"
+#include "InputLimits.h"
+#include "NamePoolFilter.h"
+#include "NestingDepthFilter.h"
 #include "PositionFilter.h"
-
+#include "XmlParseStop.h"
 #include "ZefException.h"
+#include "ZefLog.h"
 
 namespace Zef {
 
@@ -42,20 +48,38 @@ PathKind classify(const std::string& name) {
     return ::access(name.c_str(), R_OK) == 0 ? PathKind::RegularFile : PathKind::Unreadable;
 }
 
+// Refuses a document that is beyond a limit: the reason is logged as an
+// error, so that it is seen whatever the trace level, and the document
+// fails like any malformed one.
+[[noreturn]] void refuse(const std::string& fileName, const std::string& reason) {
+    ZEF_LOG_ERROR("Model file %s refused: %s.", fileName.c_str(), reason.c_str());
+    throw ZefException(fileName + " refused: " + reason);
+}
+
 // The document is read into memory and parsed from there, so that a file
-// name is never interpreted as a URI by the XML reader.
-std::string readFile(const std::string& name) {
-    int fd = ::open(name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+// name is never interpreted as a URI by the XML reader. It is opened
+// without blocking and checked again once open, so a file replaced by a
+// FIFO or a device after the first check cannot stall the run, and its
+// size is bounded before and while it is read.
+std::string readFile(const std::string& name, std::uint64_t maxSize) {
+    const int fd = ::open(name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (fd < 0) {
         throw ZefException(name + " is not readable");
     }
+    struct stat st;
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+        ::close(fd);
+        throw ZefException(name + " is not a file");
+    }
+    const std::string tooLarge =
+        "larger than " + std::to_string(maxSize) + " bytes (ZEF_VALIDATOR_MAX_FILE_SIZE)";
+    if (static_cast<std::uint64_t>(st.st_size) > maxSize) {
+        ::close(fd);
+        refuse(name, tooLarge);
+    }
     // Read straight into a buffer of the file's size, in as few calls as it
     // takes; a file that turns out longer grows the buffer block by block.
-    std::string content;
-    struct stat st;
-    if (::fstat(fd, &st) == 0 && st.st_size > 0) {
-        content.resize(static_cast<size_t>(st.st_size));
-    }
+    std::string content(static_cast<size_t>(st.st_size), '\0');
     size_t filled = 0;
     for (;;) {
         if (filled == content.size()) {
@@ -73,15 +97,57 @@ std::string readFile(const std::string& name) {
             break;
         }
         filled += static_cast<size_t>(n);
+        // A file that grows while it is read is bounded all the same.
+        if (filled > maxSize) {
+            ::close(fd);
+            refuse(name, tooLarge);
+        }
     }
     ::close(fd);
     content.resize(filled);
     return content;
 }
 
+// Builds the DOM of `text` the way a DOM parser with the white-space filter
+// does (namespaces and their prefixes reported, no name pool given), with
+// the guard filters between the reader and the builder, each refusing the
+// document in this one pass when it is past one limit. `text` is
+// overwritten when the document is refused (see XmlParseStop). With
+// `positions`, the white-space filter also notes where each element begins.
+Poco::AutoPtr<Poco::XML::Document> parseText(const std::string& fileName, std::string& text,
+                                             const ZefModelRepositoryService::InputLimits& limits,
+                                             ZefModelRepositoryService::ElementPositions* positions) {
+    using namespace ZefModelRepositoryService;
+    Poco::XML::SAXParser reader;
+    reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACES, true);
+    reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACE_PREFIXES, true);
+    XmlParseStop stop(&text[0], text.size());
+    NestingDepthFilter depthFilter(&reader, stop, limits.maxDepth);
+    EntityExpansionFilter entityFilter(&depthFilter, stop, limits.maxEntityExpansion);
+    NamePoolFilter namePoolFilter(&entityFilter, stop);
+    const std::unique_ptr<Poco::XML::WhitespaceFilter> whitespaceFilter(
+        positions != nullptr ? new PositionFilter(&namePoolFilter, *positions)
+                             : new Poco::XML::WhitespaceFilter(&namePoolFilter));
+    Poco::XML::DOMBuilder builder(*whitespaceFilter);
+    Poco::AutoPtr<Poco::XML::Document> document;
+    try {
+        document = builder.parseMemoryNP(text.data(), text.size());
+    } catch (const Poco::Exception& e) {
+        // The reader's own error, unless a filter stopped it.
+        if (!stop.stopped()) {
+            throw ZefException(e.displayText());
+        }
+    }
+    if (stop.stopped()) {
+        refuse(fileName, stop.reason());
+    }
+    return document;
+}
+
 } // namespace
 
 void ZefConfiguration::load(const std::string& fileName) {
+    const ZefModelRepositoryService::InputLimits limits = ZefModelRepositoryService::InputLimits::fromEnvironment();
     std::string text;
     switch (classify(fileName)) {
     case PathKind::Other:
@@ -89,31 +155,20 @@ void ZefConfiguration::load(const std::string& fileName) {
     case PathKind::Unreadable:
         throw ZefException(fileName + " is not readable");
     case PathKind::RegularFile:
-        text = readFile(fileName);
+        text = readFile(fileName, limits.maxFileSize);
         break;
     case PathKind::Missing:
         text = fileName;
         break;
     }
-
-    // The chain a DOM parser with the white-space filter builds (namespaces
-    // and their prefixes reported, no name pool given); while positions are
-    // noted, its white-space filter also notes where each element begins.
+    // The old document goes first: two large documents are never held at once.
     _document = nullptr;
     _positions.clear();
-    Poco::XML::SAXParser reader;
-    reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACES, true);
-    reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACE_PREFIXES, true);
-    const std::unique_ptr<Poco::XML::WhitespaceFilter> whitespaceFilter(
-        _notePositions ? new ZefModelRepositoryService::PositionFilter(&reader, _positions)
-                       : new Poco::XML::WhitespaceFilter(&reader));
-    Poco::XML::DOMBuilder builder(*whitespaceFilter);
     try {
-        _document = builder.parseMemoryNP(text.data(), text.size());
-    } catch (const Poco::Exception& e) {
-        _document = nullptr;
+        _document = parseText(fileName, text, limits, _notePositions ? &_positions : nullptr);
+    } catch (...) {
         _positions.clear();
-        throw ZefException(e.displayText());
+        throw;
     }
     if (_notePositions) {
         _positions.assignTo(_document.get());

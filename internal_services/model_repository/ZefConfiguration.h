@@ -24,8 +24,14 @@ public:
     /// filtered out, replacing (and releasing) any document held before.
     /// When no file of that name exists the argument itself is parsed as XML
     /// text, so a document can also be handed over in a string.
+    /// The file is read into memory and parsed from there; the text goes
+    /// through the guard filters of the reading chain (nesting depth, entity
+    /// expansion, DOM name pool) in the same pass that builds the DOM.
     /// Throws ZefException with "<fileName> is not a file" or "<fileName> is
-    /// not readable", and with the reader's own text for malformed XML.
+    /// not readable", with the reader's own text for malformed XML, and with
+    /// "<fileName> refused: <reason>" (also logged as an error) for a file
+    /// larger than the size limit or a document past another limit (see
+    /// InputLimits).
     void load(const std::string& fileName);
 
     /// The elements of the held document with the given tag name (null when

@@ -1,0 +1,67 @@
+#include "NamePoolFilter.h"
+
+#include <functional>
+#include <string_view>
+
+#include <Poco/SAX/Attributes.h>
+
+namespace ZefModelRepositoryService {
+
+using Poco::XML::XMLString;
+
+namespace {
+
+const std::size_t kSlots = 1024;  // a power of two above twice the capacity
+
+// The part of a qualified name after its prefix, without a copy.
+std::string_view localPart(const XMLString& qname) {
+    const std::string::size_type colon = qname.find(':');
+    return colon == std::string::npos ? std::string_view(qname) : std::string_view(qname).substr(colon + 1);
+}
+
+} // namespace
+
+NamePoolFilter::NamePoolFilter(Poco::XML::XMLReader* parent, XmlParseStop& stop)
+    : XmlGuardFilter(parent, stop), _slots(kSlots) {}
+
+void NamePoolFilter::use(const XMLString& qname, const XMLString& uri, std::string_view localName) {
+    const std::hash<std::string> hasher;
+    const std::size_t hash = hasher(qname) * 31 + hasher(uri);
+    std::size_t at = hash & (kSlots - 1);
+    while (_slots[at].used) {
+        const Name& name = _slots[at];
+        if (name.hash == hash && name.qname == qname && name.uri == uri && name.localName == localName) {
+            return;
+        }
+        at = (at + 1) & (kSlots - 1);
+    }
+    if (_size == kCapacity) {
+        refuse("more than " + std::to_string(kCapacity) +
+               " distinct element and attribute names, more than a DOM document holds");
+        return;
+    }
+    Name& name = _slots[at];
+    name.used = true;
+    name.hash = hash;
+    name.qname = qname;
+    name.uri = uri;
+    name.localName.assign(localName.data(), localName.size());
+    ++_size;
+}
+
+void NamePoolFilter::startElement(const XMLString& uri, const XMLString& localName, const XMLString& qname,
+                                  const Poco::XML::Attributes& attributes) {
+    if (!stopped()) {
+        // The DOM names an element by its qualified name and the local part
+        // of that; an attribute by the names the reader reports for it.
+        const XMLString& elementName = qname.empty() ? localName : qname;
+        use(elementName, uri, localPart(elementName));
+        const int count = attributes.getLength();
+        for (int i = 0; i < count && !stopped(); ++i) {
+            use(attributes.getQName(i), attributes.getURI(i), attributes.getLocalName(i));
+        }
+    }
+    XmlGuardFilter::startElement(uri, localName, qname, attributes);
+}
+
+} // namespace ZefModelRepositoryService

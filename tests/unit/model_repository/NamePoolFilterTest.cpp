@@ -1,0 +1,98 @@
+// The name-pool guard of the reading chain: it counts names the way the DOM
+// document's pool does.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include <Poco/DOM/DOMParser.h>
+
+#include "GuardChainTestSupport.h"
+#include "NamePoolFilter.h"
+
+using ZefModelRepositoryService::NamePoolFilter;
+using ZefModelRepositoryService::XmlGuardFilter;
+using ZefModelRepositoryService::XmlParseStop;
+
+namespace {
+
+NamePoolFilter* lastFilter = nullptr;
+
+ZefTest::GuardFactory namePool() {
+    return [](Poco::XML::XMLReader* parent, XmlParseStop& stop) {
+        auto filter = new NamePoolFilter(parent, stop);
+        lastFilter = filter;
+        return std::unique_ptr<XmlGuardFilter>(filter);
+    };
+}
+
+/// A document with `count` distinct names: the root "r" and count - 1 children.
+std::string withNames(int count, const std::string& rootAttributes = "") {
+    std::string text = "<r" + rootAttributes + ">";
+    for (int i = 1; i < count; ++i) {
+        text += "<n" + std::to_string(i) + "/>";
+    }
+    return text + "</r>";
+}
+
+} // namespace
+
+TEST(NamePoolFilterTest, RepeatedNamesCountOnce) {
+    const ZefTest::GuardedRead read = ZefTest::readGuarded("<r a=\"1\"><e a=\"2\"/><e b=\"3\"/><r/></r>", namePool());
+    EXPECT_EQ("", read.refusal);
+    EXPECT_EQ(4u, lastFilter->size());  // r, a, e, b
+}
+
+TEST(NamePoolFilterTest, AsManyNamesAsThePoolHoldsPass) {
+    const ZefTest::GuardedRead read = ZefTest::readGuarded(withNames(509), namePool());
+    EXPECT_EQ("", read.refusal);
+    EXPECT_FALSE(read.document.isNull());
+    EXPECT_EQ(509u, lastFilter->size());
+}
+
+TEST(NamePoolFilterTest, OneNameMoreIsRefused) {
+    const ZefTest::GuardedRead read = ZefTest::readGuarded(withNames(510), namePool());
+    EXPECT_EQ("more than 509 distinct element and attribute names, more than a DOM document holds", read.refusal);
+}
+
+TEST(NamePoolFilterTest, AttributeNamesCount) {
+    const ZefTest::GuardedRead read = ZefTest::readGuarded(withNames(509, " extra=\"1\""), namePool());
+    EXPECT_EQ("more than 509 distinct element and attribute names, more than a DOM document holds", read.refusal);
+}
+
+TEST(NamePoolFilterTest, NamespaceUriMakesADistinctName) {
+    // "x" in no namespace, "p:x" and "x" in urn:a are three entries of the
+    // pool; the reader does not report namespace declarations as attributes.
+    const ZefTest::GuardedRead read =
+        ZefTest::readGuarded("<r><x/><p:x xmlns:p=\"urn:a\"/><x xmlns=\"urn:a\"/></r>", namePool());
+    EXPECT_EQ("", read.refusal);
+    EXPECT_EQ(4u, lastFilter->size());
+}
+
+TEST(NamePoolFilterTest, AFullCountFitsTheRealDomPool) {
+    // 509 names as this filter counts them, namespaced ones among them: a DOM
+    // parser without a name pool of its own takes the document (were its
+    // pool to count a name more, it would overflow here).
+    std::string text = "<r><x/><p:x xmlns:p=\"urn:a\" p:y=\"1\" y=\"2\"/><x xmlns=\"urn:a\"/>";
+    for (int i = 6; i < 509; ++i) {
+        text += "<n" + std::to_string(i) + "/>";
+    }
+    text += "</r>";
+    const ZefTest::GuardedRead read = ZefTest::readGuarded(text, namePool());
+    EXPECT_EQ("", read.refusal);
+    EXPECT_EQ(509u, lastFilter->size());
+    Poco::XML::DOMParser parser;
+    Poco::AutoPtr<Poco::XML::Document> document;
+    EXPECT_NO_THROW(document = parser.parseMemory(text.data(), text.size()));
+}
+
+TEST(NamePoolFilterTest, ManyNamesInALargeDocumentStopTheReader) {
+    std::string text = "<r>";
+    for (int i = 0; i < 5000; ++i) {
+        text += "<n" + std::to_string(i) + "/>";
+    }
+    const ZefTest::GuardedRead read = ZefTest::readGuarded(text + "</r>", namePool());
+    EXPECT_EQ("more than 509 distinct element and attribute names, more than a DOM document holds", read.refusal);
+    EXPECT_TRUE(read.document.isNull());
+}
