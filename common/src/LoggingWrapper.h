@@ -1,11 +1,16 @@
 #ifndef ZEF_LOGGING_WRAPPER_H
 #define ZEF_LOGGING_WRAPPER_H
 
+#include <sys/stat.h>
+#include <sys/types.h>
+
 #include <atomic>
 #include <cstdarg>
 #include <cstdio>
 #include <memory>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ZefMgmtSpi.h"
@@ -64,6 +69,11 @@ public:
                          ...) __attribute__((format(printf, 7, 8)));
     /// Detaches every interface and closes the file; later calls only complain.
     void close();
+    /// Never writes into the file `path` names (an input of the run): if it
+    /// is the active log file, the file is closed and lines go to standard
+    /// error from now on; a log file opened later is refused when it is
+    /// that file. A path that names nothing is ignored.
+    void refuse_file(const std::string& path);
 
     // Rotation internals, public for the unit tests. Callers hold the lock.
     /// Rotates the active file when it has grown beyond max size.
@@ -75,6 +85,8 @@ public:
     LoggingWrapper& operator=(const LoggingWrapper&) = delete;
 
 private:
+    /// A file as the file system knows it, whatever its path.
+    typedef std::pair<dev_t, ino_t> FileIdentity;
     /// A numbered old log file found in the log directory.
     struct NumberedFile {
         int number;
@@ -93,8 +105,12 @@ private:
     /// last component the base name of the numbered old files.
     void adoptPath(const std::string& path);
 
-    /// Opens the active file in append mode; on failure lines go to standard error.
+    /// Opens the active file in append mode, without following a symbolic
+    /// link or blocking; a file that is not a regular file, has other hard
+    /// links or is refused is not used. On failure lines go to standard error.
     void openFile();
+    /// Whether the file of `info` is one that refuse_file() named.
+    bool isRefused(const struct stat& info) const;
     /// Closes the active file (if any) and forgets it.
     void closeFile();
     /// Writes one line and its newline to the active file, or to standard
@@ -140,6 +156,8 @@ private:
     unsigned long long _fileSize = 0;
     bool _fileSizeKnown = false;
     std::unique_ptr<char[]> _fileBuffer;
+    // Files the log must never write into (see refuse_file).
+    std::set<FileIdentity> _refusedFiles;
 
     static std::atomic<LoggingWrapper*> theInstance;
     static ZefThreadLock _lock;

@@ -4,6 +4,7 @@
 #include "LoggingWrapper.h"
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,6 +14,9 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
+
+#include "ZefScopedLock.h"
+#include "ZefThreadLock.h"
 
 namespace Zef {
 
@@ -27,17 +31,64 @@ bool isWritable(const std::string& path) { return access(path.c_str(), W_OK) == 
 } // namespace
 
 void LoggingWrapper::openFile() {
-    _file = std::fopen(_fname.c_str(), "a");
+    // The default log lives in a shared temporary folder under a name anyone
+    // can predict: a symbolic link, a FIFO or a second hard link planted
+    // there must never make the tool write into another file or wait for a
+    // reader. The last component is therefore opened without following a
+    // link and without blocking, and must turn out to be a regular file with
+    // one name only.
+    const int fd = open(_fname.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY,
+                        0644);
+    if (fd < 0) {
+        std::perror("Failed to open log file!");
+        return;
+    }
+    struct stat info;
+    const char* refusal = nullptr;
+    if (fstat(fd, &info) != 0)
+        refusal = "cannot be examined";
+    else if (!S_ISREG(info.st_mode))
+        refusal = "not a regular file";
+    else if (info.st_nlink > 1)
+        refusal = "the file has other names (hard links)";
+    else if (isRefused(info))
+        refusal = "the file is an input of this run";
+    if (refusal != nullptr) {
+        ::close(fd);
+        std::fprintf(stderr, "Failed to open log file!: %s: %s\n", _fname.c_str(), refusal);
+        return;
+    }
+    // Back to blocking writes: a regular file never blocks anyway.
+    fcntl(fd, F_SETFL, O_APPEND);
+    _file = fdopen(fd, "a");
     if (_file == nullptr) {
+        ::close(fd);
         std::perror("Failed to open log file!");
         return;
     }
     if (!_fileBuffer)
         _fileBuffer.reset(new char[kFileBufferSize]);
     std::setvbuf(_file, _fileBuffer.get(), _IOFBF, kFileBufferSize);
+    _fileSizeKnown = true;
+    _fileSize = static_cast<unsigned long long>(info.st_size);
+}
+
+bool LoggingWrapper::isRefused(const struct stat& info) const {
+    return _refusedFiles.count(FileIdentity(info.st_dev, info.st_ino)) != 0;
+}
+
+void LoggingWrapper::refuse_file(const std::string& path) {
     struct stat info;
-    _fileSizeKnown = fstat(fileno(_file), &info) == 0;
-    _fileSize = _fileSizeKnown ? static_cast<unsigned long long>(info.st_size) : 0;
+    if (stat(path.c_str(), &info) != 0)
+        return;
+    ZefScopedLock guard(_lock);
+    if (!_refusedFiles.insert(FileIdentity(info.st_dev, info.st_ino)).second)
+        return;
+    struct stat active;
+    if (_file != nullptr && fstat(fileno(_file), &active) == 0 && isRefused(active)) {
+        closeFile();
+        std::fprintf(stderr, "Failed to open log file!: %s: %s\n", _fname.c_str(), "the file is an input of this run");
+    }
 }
 
 void LoggingWrapper::closeFile() {
@@ -95,6 +146,10 @@ void LoggingWrapper::check_and_rotate_log_file() {
 }
 
 void LoggingWrapper::rotateLogs() {
+    // Without a base name every "<anything>.<digits>" of the folder would
+    // look like an old log file; nothing is renamed or deleted then.
+    if (_baseName.empty())
+        return;
     NumberedFileList list;
     getFileMatches(list);
     if (list.empty()) {
@@ -131,11 +186,12 @@ void LoggingWrapper::getFileMatches(NumberedFileList& list) const {
     }
     while (struct dirent* entry = readdir(dir)) {
         const std::string name(entry->d_name);
-        // Only names that begin with the base name count, so that a file
-        // such as "backup-zef.log.1" beside the log is never taken for an
-        // old log file and deleted. A separator character and the number follow.
+        // Only "<base name>.<digits>" counts, so that a file such as
+        // "backup-zef.log.1" or "zef.log-1" beside the log is never taken for
+        // an old log file and renamed or deleted.
         const std::string::size_type numberAt = _baseName.size() + 1;
-        if (name.size() <= numberAt || name.compare(0, _baseName.size(), _baseName) != 0)
+        if (_baseName.empty() || name.size() <= numberAt || name.compare(0, _baseName.size(), _baseName) != 0 ||
+            name[_baseName.size()] != '.')
             continue;
         int number = 0;
         if (parseNumber(name.c_str() + numberAt, &number))

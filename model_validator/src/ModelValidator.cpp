@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -24,6 +25,7 @@
 #include <Poco/String.h>
 
 #include "CommandLineOptions.h"
+#include "InputLimits.h"
 #include "ModelRepositoryService.h"
 #include "ReportSession.h"
 #include "RuleList.h"
@@ -45,9 +47,10 @@ void printLine(const std::string& text) {
 
 // Reads a whole regular file in blocks. The file is opened without blocking
 // and checked before any read, so a FIFO or a device named as a list file
-// cannot stall the run.
+// cannot stall the run, and its size is bounded like a model file's.
 std::string readRegularFile(const std::string& path) {
-    int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const std::uint64_t maxSize = ZefModelRepositoryService::InputLimits::fromEnvironment().maxFileSize;
+    int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (fd < 0) {
         throw Zef::ZefException(ZefFailure, "Cannot open file '%s': %s", path.c_str(), std::strerror(errno));
     }
@@ -71,10 +74,22 @@ std::string readRegularFile(const std::string& path) {
         if (n == 0) {
             break;
         }
+        if (content.size() + static_cast<size_t>(n) > maxSize) {
+            ::close(fd);
+            throw Zef::ZefException(ZefFailure, "Cannot read file '%s': larger than %llu bytes (ZEF_VALIDATOR_MAX_FILE_SIZE)",
+                                    path.c_str(), static_cast<unsigned long long>(maxSize));
+        }
         content.append(block.data(), static_cast<size_t>(n));
     }
     ::close(fd);
     return content;
+}
+
+// Adds a model file to the run. The log must never be written into a file
+// the run reads, so the logger is told about each one as soon as it is known.
+void addModelFile(std::list<std::string>& files, const std::string& path) {
+    files.push_back(path);
+    Zef::LoggingWrapper::instance()->refuse_file(path);
 }
 
 std::string logFileName() { return Zef::LoggingWrapper::instance()->get_fname(); }
@@ -169,7 +184,7 @@ bool getFileList(const char* dir, std::list<std::string>& files) {
     for (const std::string& name : names) {
         std::string path = std::string(dir) + "/" + name;
         if (isValid(path.c_str(), true) && isXml(path.c_str())) {
-            files.push_back(path);
+            addModelFile(files, path);
         }
     }
     return true;
@@ -192,7 +207,7 @@ int getFileContents(const std::string& listFile, std::list<std::string>& files) 
             ZEF_LOG_AND_TRACE(ZEF_LOG_LEVEL_ERROR, "Parse Error on (%s)", path.c_str());
             return -1;
         }
-        files.push_back(path);
+        addModelFile(files, path);
     }
     return 0;
 }
@@ -271,7 +286,7 @@ int checkPositionalFiles(int argc, char** argv, RunOptions& run) {
             printLine(std::string("File \"") + arg + "\" is not an XML file.");
             return -1;
         }
-        run.modelFiles.push_back(arg);
+        addModelFile(run.modelFiles, arg);
     }
     if (run.modelFiles.empty()) {
         printLine("No model files specified.");
@@ -303,6 +318,14 @@ int printSummary(ModelRepositoryService& service, bool quiet) {
 
 int run(int argc, char** argv, ReportSession& report) {
     initLoggingWrapper();
+    // Every file named on the command line (model, list or plug-in) is kept
+    // out of the log before anything is logged; files named in lists and
+    // folders follow as they are found.
+    for (int i = 1; i < argc; ++i) {
+        if (isValid(argv[i], true)) {
+            Zef::LoggingWrapper::instance()->refuse_file(argv[i]);
+        }
+    }
     if (!report.readOptions(argc, argv, kValidatorShortOptions, validatorLongOptions())) {
         return -1;
     }
