@@ -12,7 +12,7 @@
 
 #include "Finding.h"
 #include "MocWrapper.h"
-#include "PatternCache.h"
+#include "PatternGuard.h"
 #include "SourceLocation.h"
 #include "ZefOamSpiModelRepository_2.h"
 #include "ZefOamSpiModelRepository_3.h"
@@ -297,8 +297,9 @@ private:
     bool _mocsByNameValid = false;
     std::unordered_map<std::string, MomWrapper*> _qcimMomIndex;
     bool _qcimMomIndexValid = false;
-    // The patterns of doRegexp, compiled once each.
-    PatternCache _patterns;
+    // The pattern checks of doRegexp, within bounds; each pattern is
+    // compiled once (in the checker's own process).
+    PatternGuard _patterns{InputLimits::fromEnvironment()};
 
     // The names of the model files read, for the locations of records.
     std::set<std::string> _modelFileNames;

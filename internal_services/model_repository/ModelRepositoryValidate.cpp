@@ -744,15 +744,17 @@ void ModelRepository::checkUniDirectionalAssociations()
 bool ModelRepository::doRegexp(std::string pattern, std::string text)
 {
     // Every pattern of the model is compiled and run here and nowhere else,
-    // so limits on what a pattern may cost belong here too. A pattern is
-    // compiled once and kept; a pattern that does not compile is reported
-    // at every use, as each use is a value that could not be checked.
-    const PatternCache::Entry& compiled = _patterns.get(pattern);
-    if (!compiled.compiled()) {
-        report(levelError, patternDoesNotCompile, pattern.c_str(), compiled.error().c_str());
+    // so limits on what a pattern may cost belong here too: the guard
+    // refuses what would crash, hang or exhaust the process and says why in
+    // place of the engine's error text. A pattern is compiled once and
+    // kept; a pattern that does not compile is reported at every use, as
+    // each use is a value that could not be checked.
+    const PatternGuard::Result result = _patterns.match(pattern, text);
+    if (result.outcome == PatternGuard::Outcome::Refused) {
+        report(levelError, patternDoesNotCompile, pattern.c_str(), result.reason.c_str());
         return false;
     }
-    if (!compiled.matches(text)) {
+    if (result.outcome == PatternGuard::Outcome::NoMatch) {
         return false;
     }
     ZEF_TRACE("Got a match of \"%s\" in \"%s\".", pattern.c_str(), text.c_str());
