@@ -1,8 +1,11 @@
 #ifndef ZEF_DOMAIN_EXTENSION_WRAPPER_H
 #define ZEF_DOMAIN_EXTENSION_WRAPPER_H
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
+
+#include "RecordPool.h"
 
 namespace ZefModelRepositoryService {
 
@@ -21,6 +24,10 @@ public:
 
     DomainExtensionWrapper(const DomainExtensionWrapper&) = delete;
     DomainExtensionWrapper& operator=(const DomainExtensionWrapper&) = delete;
+
+    /// Extensions come from the record pool (see RecordPool).
+    static void* operator new(std::size_t size) { return RecordPool::allocate(size); }
+    static void operator delete(void* block, std::size_t size) noexcept { RecordPool::release(block, size); }
 
     /// A new record with the same domain, name and value and handle 0; owned by the caller.
     DomainExtensionWrapper* clone() const;

@@ -1,11 +1,14 @@
 #ifndef ZEF_GENERAL_PROPERTIES_WRAPPER_H
 #define ZEF_GENERAL_PROPERTIES_WRAPPER_H
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "DomainExtensionList.h"
 #include "DomainExtensionWrapper.h"
+#include "RecordPool.h"
 #include "SourceLocation.h"
 #include "ZefOamSpiMrTypes.h"
 #include "ZefReturn.h"
@@ -49,6 +52,10 @@ public:
 
     GeneralPropertiesWrapper(const GeneralPropertiesWrapper&) = delete;
     GeneralPropertiesWrapper& operator=(const GeneralPropertiesWrapper&) = delete;
+
+    /// Element records come from the record pool (see RecordPool).
+    static void* operator new(std::size_t size) { return RecordPool::allocate(size); }
+    static void operator delete(void* block, std::size_t size) noexcept { RecordPool::release(block, size); }
 
     /// The identity key of the element. Here: its name, or the empty string
     /// when none is set; element records return their cached key.
@@ -95,7 +102,7 @@ public:
     const DomainExtensionWrapper* getDomainExtension(const std::string& extensionName,
                                                      const std::string& propertyName) const;
     /// All domain extensions in the order added.
-    const std::vector<DomainExtensionWrapper*>& getDomainExtensions() const { return _domainExtensions; }
+    const DomainExtensionList& getDomainExtensions() const { return _domainExtensions; }
     /// True when the element carries the domain extension "QCIM"/"isNillable".
     bool isNillable() const;
 
@@ -115,7 +122,7 @@ private:
     ZefOamSpiGeneralProperties& _gp;
     /// The status text, pooled: every record of a model has one of a few.
     const std::string* _status3;
-    std::vector<DomainExtensionWrapper*> _domainExtensions;
+    DomainExtensionList _domainExtensions;
     uint64_t _ownHandle = 0;
     uint64_t* _handleSlot;
     SourceLocation _sourceLocation;

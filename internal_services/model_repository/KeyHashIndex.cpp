@@ -15,15 +15,16 @@ void KeyHashIndex::add(std::size_t hash)
     if (_hashes.size() <= kScanLimit) {
         return;
     }
-    if (_positions.empty()) {
+    if (!_positions) {
         // The list has just outgrown the scan: every position so far.
-        _positions.reserve(_hashes.size() * 2);
+        _positions.reset(new std::unordered_multimap<std::size_t, std::size_t>());
+        _positions->reserve(_hashes.size() * 2);
         for (std::size_t at = 0; at < _hashes.size(); ++at) {
-            _positions.emplace(_hashes[at], at);
+            _positions->emplace(_hashes[at], at);
         }
         return;
     }
-    _positions.emplace(hash, _hashes.size() - 1);
+    _positions->emplace(hash, _hashes.size() - 1);
 }
 
 } // namespace ZefModelRepositoryService

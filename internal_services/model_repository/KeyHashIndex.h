@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <iterator>
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -44,7 +45,7 @@ public:
             }
             return false;
         }
-        const auto candidates = _positions.equal_range(hash);
+        const auto candidates = _positions->equal_range(hash);
         for (auto candidate = candidates.first; candidate != candidates.second; ++candidate) {
             if (keyAt(list, candidate->second) == key) {
                 return true;
@@ -64,8 +65,9 @@ private:
     }
 
     std::vector<std::size_t> _hashes;
-    /// Hash to list position, filled once the list outgrows kScanLimit.
-    std::unordered_multimap<std::size_t, std::size_t> _positions;
+    /// Hash to list position, made once the list outgrows kScanLimit (most
+    /// lists never do, and an empty table is not small).
+    std::unique_ptr<std::unordered_multimap<std::size_t, std::size_t>> _positions;
 };
 
 } // namespace ZefModelRepositoryService

@@ -1,7 +1,10 @@
 #ifndef ZEF_BASE_IF2_IMPL_H
 #define ZEF_BASE_IF2_IMPL_H
 
+#include <cstddef>
 #include <cstdint>
+
+#include "RecordPool.h"
 
 namespace ZefModelRepositoryService {
 
@@ -17,6 +20,11 @@ public:
 
     BaseIf2Impl(const BaseIf2Impl&) = delete;
     BaseIf2Impl& operator=(const BaseIf2Impl&) = delete;
+
+    /// Interface objects come from the record pool, beside their records
+    /// (see RecordPool).
+    static void* operator new(std::size_t size) { return RecordPool::allocate(size); }
+    static void operator delete(void* block, std::size_t size) noexcept { RecordPool::release(block, size); }
 
     /// Stores the handle the manager assigned when the object was pushed.
     void pushedWithHandle(unsigned long long handle) { _handle = handle; }

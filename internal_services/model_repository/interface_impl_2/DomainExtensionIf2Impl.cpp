@@ -73,7 +73,7 @@ ZefReturnT DomainExtensionIf2Impl::getDomain(const char*& domain) const
 ZefReturnT DomainExtensionIf2Impl::getNext(uint64_t& next) const
 {
     // The extensions know no neighbour; the owner's list gives the order.
-    const std::vector<DomainExtensionWrapper*>& all = _owner.getDomainExtensions();
+    const DomainExtensionList& all = _owner.getDomainExtensions();
     for (size_t i = 0; i + 1 < all.size(); ++i) {
         if (all[i] == &_extension) {
             return If2Links::registeredHandle(all[i + 1]->getHandle(), next);

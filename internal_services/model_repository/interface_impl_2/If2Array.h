@@ -2,9 +2,9 @@
 #define ZEF_IF2_ARRAY_H
 
 #include <cstdint>
+#include <deque>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace ZefModelRepositoryService {
 
@@ -62,7 +62,10 @@ public:
     }
 
 private:
-    std::vector<T*> _objects;
+    // A deque grows by blocks: a model's hundreds of thousands of objects
+    // are never copied to a larger array, nor is room left for as many
+    // again.
+    std::deque<T*> _objects;
 };
 
 } // namespace ZefModelRepositoryService
