@@ -2,18 +2,34 @@
 
 #include <cstring>
 
+#include "RecordPool.h"
+
 namespace ZefModelRepositoryService {
+
+CachedKey::~CachedKey()
+{
+    release();
+}
 
 void CachedKey::set(const std::string& key)
 {
+    release();
     if (key.empty()) {
-        _text.reset();
         return;
     }
-    // Keys never hold a NUL: they are joined from C strings.
-    std::unique_ptr<char[]> text(new char[key.size() + 1]);
-    std::memcpy(text.get(), key.c_str(), key.size() + 1);
-    _text = std::move(text);
+    // Keys never hold a NUL: they are joined from C strings, so the
+    // terminator tells the block size again at release.
+    char* text = static_cast<char*>(RecordPool::allocate(key.size() + 1));
+    std::memcpy(text, key.c_str(), key.size() + 1);
+    _text = text;
+}
+
+void CachedKey::release()
+{
+    if (_text != nullptr) {
+        RecordPool::release(_text, std::strlen(_text) + 1);
+        _text = nullptr;
+    }
 }
 
 } // namespace ZefModelRepositoryService

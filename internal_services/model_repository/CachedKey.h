@@ -1,18 +1,18 @@
 #ifndef ZEF_CACHED_KEY_H
 #define ZEF_CACHED_KEY_H
 
-#include <memory>
 #include <string>
 
 namespace ZefModelRepositoryService {
 
-/// The identity key a record builds once and keeps, in one allocation of
-/// the key's length behind one pointer. Records whose keys run through
+/// The identity key a record builds once and keeps, in one block of the
+/// key's length behind one pointer. Records whose keys run through
 /// their MOM and class (attributes, actions) are the most numerous of a
 /// model, and their keys are always longer than a string keeps in place.
 class CachedKey {
 public:
     CachedKey() = default;
+    ~CachedKey();
 
     CachedKey(const CachedKey&) = delete;
     CachedKey& operator=(const CachedKey&) = delete;
@@ -24,10 +24,14 @@ public:
     void set(const std::string& key);
 
     /// The kept key, or the empty string.
-    std::string str() const { return _text ? std::string(_text.get()) : std::string(); }
+    std::string str() const { return _text != nullptr ? std::string(_text) : std::string(); }
 
 private:
-    std::unique_ptr<char[]> _text;
+    void release();
+
+    /// From the record pool, as the record itself: a key's length gives its
+    /// block size.
+    char* _text = nullptr;
 };
 
 } // namespace ZefModelRepositoryService

@@ -2,6 +2,7 @@
 #define ZEF_KEY_HASH_INDEX_H
 
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <memory>
 #include <string>
@@ -39,13 +40,13 @@ public:
     {
         if (_hashes.size() <= kScanLimit) {
             for (std::size_t at = 0; at < _hashes.size(); ++at) {
-                if (_hashes[at] == hash && keyAt(list, at) == key) {
+                if (_hashes[at] == static_cast<uint32_t>(hash) && keyAt(list, at) == key) {
                     return true;
                 }
             }
             return false;
         }
-        const auto candidates = _positions->equal_range(hash);
+        const auto candidates = _positions->equal_range(static_cast<uint32_t>(hash));
         for (auto candidate = candidates.first; candidate != candidates.second; ++candidate) {
             if (keyAt(list, candidate->second) == key) {
                 return true;
@@ -64,7 +65,9 @@ private:
         return (*std::next(list.begin(), static_cast<long>(at)))->getId();
     }
 
-    std::vector<std::size_t> _hashes;
+    /// The low 32 bits of each hash: a false match costs one key
+    /// comparison, and the list of a class's attributes stays small.
+    std::vector<uint32_t> _hashes;
     /// Hash to list position, made once the list outgrows kScanLimit (most
     /// lists never do, and an empty table is not small).
     std::unique_ptr<std::unordered_multimap<std::size_t, std::size_t>> _positions;

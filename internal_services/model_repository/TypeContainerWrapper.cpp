@@ -18,13 +18,18 @@ ZefReturnT linkedHandle(const Record* record, uint64_t& handle)
     return ZefOk;
 }
 
+static_assert(alignof(AttrWrapper) > 1 && alignof(ZefOamSpiDatatypeContainer) > 1,
+              "the lowest bit of a source address must be free to mark an attribute");
+
 } // namespace
 
-TypeContainerWrapper::TypeContainerWrapper(const ZefOamSpiDatatypeContainer* container) : _container(container)
+TypeContainerWrapper::TypeContainerWrapper(const ZefOamSpiDatatypeContainer* container)
+    : _source(reinterpret_cast<std::uintptr_t>(container))
 {
 }
 
-TypeContainerWrapper::TypeContainerWrapper(const AttrWrapper* attr) : _attr(attr)
+TypeContainerWrapper::TypeContainerWrapper(const AttrWrapper* attr)
+    : _source(reinterpret_cast<std::uintptr_t>(attr) | kAttributeBit)
 {
 }
 
@@ -49,12 +54,12 @@ size_t TypeContainerWrapper::defaultValueCount() const
 
 TypeContainerWrapper::Fields TypeContainerWrapper::fields() const
 {
-    if (_attr != nullptr) {
-        const ZefOamSpiMoAttribute& a = _attr->getStruct();
+    if (const AttrWrapper* attr = attribute()) {
+        const ZefOamSpiMoAttribute& a = attr->getStruct();
         return Fields{a.type,          a.derivedDatatype,   a.enumDatatype, a.structDatatype,
                       a.referencedMoc, a.multiplicityRange, a.isOrdered,    a.isUnique};
     }
-    const ZefOamSpiDatatypeContainer& c = *_container;
+    const ZefOamSpiDatatypeContainer& c = *container();
     return Fields{c.type,          c.derivedDatatype,   c.enumDatatype, c.structDatatype,
                   c.referencedMoc, c.multiplicityRange, c.isOrdered,    c.isUnique};
 }

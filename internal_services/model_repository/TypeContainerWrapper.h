@@ -77,8 +77,23 @@ private:
     /// The number of default values held.
     size_t defaultValueCount() const;
 
-    const ZefOamSpiDatatypeContainer* _container = nullptr;
-    const AttrWrapper* _attr = nullptr;
+    /// The attribute, or else the data type container, presented: one word
+    /// for either, the lowest bit set for an attribute (both are aligned to
+    /// 8 bytes, so that bit is free). Every typed element of a model has a
+    /// type container.
+    std::uintptr_t _source;
+    static const std::uintptr_t kAttributeBit = 1;
+
+    const AttrWrapper* attribute() const
+    {
+        return (_source & kAttributeBit) != 0 ? reinterpret_cast<const AttrWrapper*>(_source & ~kAttributeBit)
+                                              : nullptr;
+    }
+    const ZefOamSpiDatatypeContainer* container() const
+    {
+        return (_source & kAttributeBit) == 0 ? reinterpret_cast<const ZefOamSpiDatatypeContainer*>(_source)
+                                              : nullptr;
+    }
     /// Always a valid array: the values added so far and a null terminator.
     /// The default values, null-terminated; null (read as an empty array)
     /// until the first one is added, as most elements have none.
