@@ -190,8 +190,13 @@ public:
 
     // ---- validation (ModelRepositoryValidate.cpp) ---------------------------
 
-    /// Runs every consistency check and finally findTreeRoot().
+    /// Runs every consistency check and finally findTreeRoot(); ends the
+    /// pattern checker child, as no pattern is checked after it.
     void validateModel();
+
+    /// Starts the pattern checker child before the model is loaded, while
+    /// the process is small (see PatternWorker::prepare).
+    void preparePatternChecks() { _patterns.prepare(); }
     void checkMoms();
     void checkEnums();
     void checkDdts();

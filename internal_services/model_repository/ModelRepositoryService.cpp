@@ -105,6 +105,9 @@ ZefReturnT ModelRepositoryService::start() {
     _repository.setStandalone(_standalone);
     _repository.setMainRootName(_mainRootName);
 
+    if (!_modelFiles.empty()) {
+        _repository.preparePatternChecks();
+    }
     for (const std::string& file : _modelFiles) {
         int rc = parser.parse(file);
         if (rc != 0) {

@@ -227,6 +227,11 @@ void ModelRepository::validateModel()
     checkUniDirectionalAssociations();
     ZEF_TRACE("Finding tree root");
     findTreeRoot();
+    // The pattern checker is a copy of this process: every page written
+    // while it runs is copied, and what follows validation (the dump, the
+    // plug-ins, the cleanup) writes to all of them. No pattern is checked
+    // after this point.
+    _patterns.clear();
     ZEF_TRACE_LEAVE(" << ");
 }
 

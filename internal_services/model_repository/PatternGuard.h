@@ -41,6 +41,10 @@ public:
     /// tried.
     Result match(const std::string& pattern, const std::string& text);
 
+    /// Starts the checker child ahead of the first check (see
+    /// PatternWorker::prepare).
+    void prepare() { _worker.prepare(); }
+
     /// Forgets every compiled pattern (the child ends) and every kept
     /// outcome, and starts a new total time budget.
     void clear();

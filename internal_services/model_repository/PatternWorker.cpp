@@ -126,6 +126,13 @@ PatternWorker::PatternWorker(std::chrono::milliseconds timeLimit, std::uint64_t 
 
 PatternWorker::~PatternWorker() { stop(); }
 
+void PatternWorker::prepare() {
+    std::string error;
+    if (_child < 0) {
+        start(error);
+    }
+}
+
 void PatternWorker::stop() {
     if (_child >= 0) {
         reap(true);

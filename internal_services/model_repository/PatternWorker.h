@@ -45,6 +45,13 @@ public:
     /// Whether `pattern` (POSIX extended syntax) matches somewhere in `text`.
     Reply check(const std::string& pattern, const std::string& text);
 
+    /// Starts the child now, if none runs, instead of at the first check:
+    /// forked while the process is still small, the child shares few pages,
+    /// and the process does not pay a copy-on-write fault for every page it
+    /// writes afterwards. A child that cannot be started now is tried again
+    /// at the first check.
+    void prepare();
+
     /// Ends the child, forgetting every compiled pattern.
     void stop();
 

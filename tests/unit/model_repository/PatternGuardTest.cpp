@@ -3,7 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <dirent.h>
+#include <unistd.h>
+
 #include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <string>
 
 #include "InputLimits.h"
@@ -205,6 +211,61 @@ TEST_F(PatternGuardTest, SlowPatternIsAnErrorAndNoMatch) {
     EXPECT_EQ((std::list<std::string>{"ERROR, ModelRepository: Failed to compile posix regular expression "
                                       "\"(a|b)*a(a|b){80}c\" - got error pattern check took longer than 100 ms"}),
               limited.getMessages());
+}
+
+// The processes whose parent is this test process.
+int childProcesses() {
+    int children = 0;
+    DIR* proc = opendir("/proc");
+    while (proc != nullptr) {
+        struct dirent* entry = readdir(proc);
+        if (entry == nullptr) {
+            break;
+        }
+        if (entry->d_name[0] < '0' || entry->d_name[0] > '9') {
+            continue;
+        }
+        FILE* stat = std::fopen((std::string("/proc/") + entry->d_name + "/stat").c_str(), "r");
+        if (stat == nullptr) {
+            continue;
+        }
+        // pid (name) state ppid: the name may hold blanks, the ppid follows
+        // the last ')'.
+        char line[1024] = "";
+        const bool read = std::fgets(line, sizeof(line), stat) != nullptr;
+        std::fclose(stat);
+        const char* end = read ? std::strrchr(line, ')') : nullptr;
+        char state = 0;
+        int parent = 0;
+        if (end != nullptr && std::sscanf(end + 1, " %c %d", &state, &parent) == 2 && parent == getpid()) {
+            ++children;
+        }
+    }
+    if (proc != nullptr) {
+        closedir(proc);
+    }
+    return children;
+}
+
+TEST_F(PatternGuardTest, ValidationEndsThePatternChecker) {
+    // Whatever runs after validation writes to the whole process; a checker
+    // child still forked from it would make every such page a copy.
+    const int before = childProcesses();
+    EXPECT_TRUE(repository.doRegexp("^[0-9]+$", "42"));
+    EXPECT_EQ(before + 1, childProcesses());
+    repository.validateModel();
+    EXPECT_EQ(before, childProcesses());
+    EXPECT_EQ((std::list<std::string>{"WARNING, ModelRepository: Empty model compiled."}), messages());
+}
+
+TEST_F(PatternGuardTest, PreparedCheckerServesTheChecks) {
+    const int before = childProcesses();
+    repository.preparePatternChecks();
+    EXPECT_EQ(before + 1, childProcesses());
+    EXPECT_TRUE(repository.doRegexp("^[0-9]+$", "42"));
+    EXPECT_FALSE(repository.doRegexp("^[0-9]+$", "4x2"));
+    EXPECT_EQ(before + 1, childProcesses());
+    EXPECT_TRUE(messages().empty());
 }
 
 } // namespace

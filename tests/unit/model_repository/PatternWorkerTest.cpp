@@ -89,3 +89,17 @@ TEST(PatternWorkerTest, EndlessCheckIsEndedAtTheTimeLimit) {
 }
 
 } // namespace
+
+TEST(PatternWorkerTest, PrepareStartsTheChildThatServesTheChecks) {
+    PatternWorker checker(std::chrono::milliseconds(5000), 256u << 20);
+    checker.prepare();
+    const pid_t child = checker.childId();
+    EXPECT_NE(-1, child);
+    // A second prepare keeps the running child.
+    checker.prepare();
+    EXPECT_EQ(child, checker.childId());
+    EXPECT_EQ(Outcome::Match, checker.check("^[a-z]+$", "abc").outcome);
+    EXPECT_EQ(child, checker.childId());
+    checker.stop();
+    EXPECT_EQ(-1, checker.childId());
+}
