@@ -17,6 +17,7 @@
 #include "GeneralPropertiesWrapper.h"
 #include "MocWrapper.h"
 #include "ModelRepository.h"
+#include "NameMatch.h"
 #include "MomWrapper.h"
 #include "MrUtil.h"
 #include "RecordFiling.h"
@@ -89,10 +90,10 @@ const std::pair<const char*, MomSetter> kMomAttributes[] = {
 // preliminary say "cont" and are misspelled; tools that read the findings
 // know them in this form.
 const char* momStatusFailure(const std::string& word) {
-    if (word == "deprecated") {
+    if (isNamed(word, "deprecated")) {
         return "Failed to set type (deprecated) of the mom (%s).";
     }
-    if (word == "obsolete") {
+    if (isNamed(word, "obsolete")) {
         return "Failed to set type (obsolate) of the cont (%s).";
     }
     return "Failed to set type (priliminary) of the cont (%s).";
@@ -187,7 +188,7 @@ void ModelParser::processModelsNode(Node& models, const std::string& fileName) {
     const ReadingScope reading(*this, models);
 
     for (Attr* attr : attributesOf(models)) {
-        if (attr->name() == "dtdDocNo" || attr->name() == "dtdRevision") {
+        if (isNamed(attr->name(), "dtdDocNo") || isNamed(attr->name(), "dtdRevision")) {
             ignoreUnsupportedAttributeLog(*attr);
         } else {
             ignoreUnknownAttributeLog(*attr);
@@ -198,7 +199,7 @@ void ModelParser::processModelsNode(Node& models, const std::string& fileName) {
     for (Node* child = models.firstChild(); child != nullptr; child = child->nextSibling()) {
         switch (child->nodeType()) {
         case Node::ELEMENT_NODE:
-            if (child->nodeName() == "mim") {
+            if (isNamed(child->nodeName(), "mim")) {
                 try {
                     processMomNode(*child, fileName);
                 } catch (const std::exception&) {
@@ -208,7 +209,7 @@ void ModelParser::processModelsNode(Node& models, const std::string& fileName) {
                     checkThrowException(3, "%s", kMomNotLoaded);
                     return;
                 }
-            } else if (child->nodeName() == "interMim") {
+            } else if (isNamed(child->nodeName(), "interMim")) {
                 processInterMimNode(*child);
             } else {
                 ignoreUnknownElementLog(*child);
@@ -243,7 +244,7 @@ MomWrapper* ModelParser::processMomNode(Node& mim, const std::string& fileName) 
         if (const MomSetter setter = findMomSetter(name)) {
             reportSetterResult(setter(*holder, getPocoData(attr)), kMomAlreadySet, kMomFailedToSet, name.c_str(),
                                mim.nodeName().c_str());
-        } else if (name == "date" || name == "contact") {
+        } else if (isNamed(name, "date") || isNamed(name, "contact")) {
             ignoreUnsupportedAttributeLog(*attr);
         } else {
             ignoreUnknownAttributeLog(*attr);
@@ -264,31 +265,31 @@ MomWrapper* ModelParser::processMomNode(Node& mim, const std::string& fileName) 
         }
         const ReadingScope readingChild(*this, *child);
         const std::string& name = child->nodeName();
-        if (name == "class") {
+        if (isNamed(name, "class")) {
             fileAndPublish(std::unique_ptr<MocWrapper, void (*)(MocWrapper*)>(processMocNode(*child, *mom), &discardMoc),
                            &ModelRepository::addMoc, *_repository);
-        } else if (name == "enum") {
+        } else if (isNamed(name, "enum")) {
             fileAndPublish(hold(processEnumNode(*child, *mom)), &ModelRepository::addEnum, *_repository);
-        } else if (name == "derivedDataType") {
+        } else if (isNamed(name, "derivedDataType")) {
             fileAndPublish(hold(processDdtNode(*child, *mom)), &ModelRepository::addDdt, *_repository);
-        } else if (name == "struct") {
+        } else if (isNamed(name, "struct")) {
             if (!fileAndPublish(hold(processStructNode(child, mom)), &ModelRepository::addStruct, *_repository)) {
                 checkThrowException(3, "Failed to process a struct for the mom(%s).", mom->getId().c_str());
             }
-        } else if (name == "relationship") {
+        } else if (isNamed(name, "relationship")) {
             processRelationshipNode(*child, *mom);
-        } else if (name == "description") {
+        } else if (isNamed(name, "description")) {
             reportSetterResult(properties.setDescription(getPcdata(*child)), kMomAlreadySet, kMomFailedToSet,
                                name.c_str(), mim.nodeName().c_str());
-        } else if (name == "domainExtension") {
+        } else if (isNamed(name, "domainExtension")) {
             handleDomainExtension(child, &properties);
         } else if (isStatusWord(name)) {
             if (setStatusWord(name, properties) != ZefOk) {
                 checkThrowException(4, momStatusFailure(name), properties.getName().c_str());
             }
-        } else if (name == "applicationTag" || name == "copyright" || name == "exception") {
+        } else if (isNamed(name, "applicationTag") || isNamed(name, "copyright") || isNamed(name, "exception")) {
             ignoreUnsupportedElementLog(*child);
-        } else if (name == "modelFeatures") {
+        } else if (isNamed(name, "modelFeatures")) {
             handleModelFeatures(child, mom);
         } else {
             ignoreUnknownElementLog(*child);
@@ -304,7 +305,7 @@ MomWrapper* ModelParser::processMomNode(Node& mim, const std::string& fileName) 
 void ModelParser::handleModelFeatures(Node* modelFeatures, MomWrapper* mom) {
     const ReadingScope reading(*this, *modelFeatures);
     for (Attr* attr : attributesOf(*modelFeatures)) {
-        if (attr->name() == "modelType") {
+        if (isNamed(attr->name(), "modelType")) {
             // Read for the trimming check only; the repository does not keep it.
             getPocoData(attr);
         } else {
@@ -316,13 +317,13 @@ void ModelParser::handleModelFeatures(Node* modelFeatures, MomWrapper* mom) {
             ignoreUnsupportedElementTypeLog(*child);
             continue;
         }
-        if (child->nodeName() != "modelFeature") {
+        if (!isNamed(child->nodeName(), "modelFeature")) {
             continue;
         }
         for (Attr* attr : attributesOf(*child)) {
-            if (attr->name() == "name") {
+            if (isNamed(attr->name(), "name")) {
                 mom->setModelFeatureNames(getPocoData(attr));
-            } else if (attr->name() == "featureType") {
+            } else if (isNamed(attr->name(), "featureType")) {
                 getPocoData(attr);
             } else {
                 ignoreUnsupportedAttributeLog(*attr);
@@ -495,7 +496,7 @@ void ModelParser::reportSetterResult(ZefReturnT result, const char* alreadySetFo
 void ModelParser::readNameAttribute(Node& element, const std::function<ZefReturnT(const std::string&)>& setName,
                                     const char* alreadySetFormat, const char* failedFormat) {
     for (Attr* attr : attributesOf(element)) {
-        if (attr->name() == "name") {
+        if (isNamed(attr->name(), "name")) {
             const std::string name = getPocoData(attr);
             reportSetterResult(setName(name), alreadySetFormat, failedFormat, name.c_str());
         } else {
@@ -505,21 +506,21 @@ void ModelParser::readNameAttribute(Node& element, const std::function<ZefReturn
 }
 
 bool ModelParser::isStatusWord(const std::string& name) {
-    return name == "deprecated" || name == "obsolete" || name == "preliminary";
+    return isNamed(name, "deprecated") || isNamed(name, "obsolete") || isNamed(name, "preliminary");
 }
 
 ZefReturnT ModelParser::setStatusWord(const std::string& word, GeneralPropertiesWrapper& properties) {
-    if (word == "deprecated") {
+    if (isNamed(word, "deprecated")) {
         const ZefReturnT result = properties.setStatus(ZefOamSpiStatusDeprecated);
         properties.setStatus_3("DEPRECATED");
         return result;
     }
-    if (word == "obsolete") {
+    if (isNamed(word, "obsolete")) {
         const ZefReturnT result = properties.setStatus(ZefOamSpiStatusObsolete);
         properties.setStatus_3("OBSOLETE");
         return result;
     }
-    if (word == "preliminary") {
+    if (isNamed(word, "preliminary")) {
         return properties.setStatus_3("PRELIMINARY");
     }
     return ZefInvalidArgument;
@@ -562,16 +563,16 @@ ZefOamSpiMrType_3 ModelParser::primitiveTypeCode(const std::string& name) {
 }
 
 ZefOamSpiMrType_3 ModelParser::referenceTypeCode(const std::string& name) {
-    if (name == "moRef") {
+    if (isNamed(name, "moRef")) {
         return ZefMrType3Reference;
     }
-    if (name == "enumRef") {
+    if (isNamed(name, "enumRef")) {
         return ZefMrType3Enum;
     }
-    if (name == "derivedDataTypeRef") {
+    if (isNamed(name, "derivedDataTypeRef")) {
         return ZefMrType3Derived;
     }
-    if (name == "structRef") {
+    if (isNamed(name, "structRef")) {
         return ZefMrType3Struct;
     }
     return ZefMrType3NotSet;
@@ -623,7 +624,7 @@ ZefReturnT ModelParser::ifPrimitiveValueCheckElseIgnore(std::string& value, ZefO
     }
     case ZefMrType3Bool:
         Poco::toLowerInPlace(value);
-        return value == "true" || value == "1" || value == "false" || value == "0" ? ZefOk : ZefInvalidArgument;
+        return isNamed(value, "true") || isNamed(value, "1") || isNamed(value, "false") || isNamed(value, "0") ? ZefOk : ZefInvalidArgument;
     default:
         return ZefOk;
     }
@@ -641,7 +642,7 @@ void ModelParser::handleBaseType(Node& baseType, DdtWrapper& ddt) {
     switch (code) {
     case ZefMrType3NotSet:
         // A derived type can only restrict a primitive type.
-        if (isCommonUnsupportedDatatype(name) || name == "sequence" || referenceTypeCode(name) != ZefMrType3NotSet) {
+        if (isCommonUnsupportedDatatype(name) || isNamed(name, "sequence") || referenceTypeCode(name) != ZefMrType3NotSet) {
             ignoreUnsupportedElementLog(*type);
         } else {
             ignoreUnknownElementLog(*type);

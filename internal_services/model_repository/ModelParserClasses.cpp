@@ -11,6 +11,7 @@
 #include "MoActionWrapper.h"
 #include "MocWrapper.h"
 #include "MomWrapper.h"
+#include "NameMatch.h"
 #include "ParameterWrapper.h"
 #include "RefId.h"
 #include "StructMemberWrapper.h"
@@ -76,7 +77,7 @@ MocWrapper* ModelParser::processMocNode(Node& classElement, MomWrapper& mom) {
     GeneralPropertiesWrapper& properties = moc->getGeneralProperties();
 
     for (Attr* attr : attributesOf(classElement)) {
-        if (attr->name() != "name") {
+        if (!isNamed(attr->name(), "name")) {
             ignoreUnknownAttributeLog(*attr);
             continue;
         }
@@ -114,7 +115,7 @@ void ModelParser::processMocChild(Node& child, MocWrapper& moc, const std::strin
     GeneralPropertiesWrapper& properties = moc.getGeneralProperties();
     const std::string& name = child.nodeName();
     ZefReturnT result = ZefOk;
-    if (name == "attribute") {
+    if (isNamed(name, "attribute")) {
         std::unique_ptr<AttrWrapper> attr(processAttrNode(child, moc));
         if (attr) {
             const ZefReturnT added = moc.addAttr(attr.get());
@@ -126,7 +127,7 @@ void ModelParser::processMocChild(Node& child, MocWrapper& moc, const std::strin
                 checkThrowException(3, "Could not add attribute since it already exists (%s).", key.c_str());
             }
         }
-    } else if (name == "action") {
+    } else if (isNamed(name, "action")) {
         std::unique_ptr<MoActionWrapper> action(processActionNode(child, moc));
         if (action) {
             const ZefReturnT added = moc.addMoAction(action.get());
@@ -138,29 +139,29 @@ void ModelParser::processMocChild(Node& child, MocWrapper& moc, const std::strin
                 checkThrowException(3, "Could not add action since it already exists (%s).", key.c_str());
             }
         }
-    } else if (name == "description") {
+    } else if (isNamed(name, "description")) {
         result = properties.setDescription(getPcdata(child));
-    } else if (name == "specification") {
+    } else if (isNamed(name, "specification")) {
         result = properties.setSpecification(getPcdata(child));
     } else if (isStatusWord(name)) {
         result = setStatusWord(name, properties);
-    } else if (name == "filter") {
+    } else if (isNamed(name, "filter")) {
         // The filter text is kept as the class's hidden property.
         result = properties.setHidden(getPcdata(child));
-    } else if (name == "root") {
+    } else if (isNamed(name, "root")) {
         moc.setIsRoot(true);
-    } else if (name == "readOnly") {
+    } else if (isNamed(name, "readOnly")) {
         moc.setIsReadOnly(true);
-    } else if (name == "dependenciesScript") {
+    } else if (isNamed(name, "dependenciesScript")) {
         // A constraint from the validation rules has the last word.
         if (!moc.getHasValidationRulesConstraint()) {
             result = moc.setConstraint(child.innerText());
         }
-    } else if (name == "domainExtension") {
+    } else if (isNamed(name, "domainExtension")) {
         handleDomainExtension(&child, &properties);
-    } else if (name == "systemCreated") {
+    } else if (isNamed(name, "systemCreated")) {
         moc.setIsSystemCreated();
-    } else if (name == "validationRules") {
+    } else if (isNamed(name, "validationRules")) {
         processMocValidationRules(mocName, child, moc);
     } else if (contains(kUnsupportedMocChildren, name)) {
         ignoreUnsupportedElementLog(child);
@@ -191,7 +192,7 @@ void ModelParser::processMocValidationRules(const std::string& mocName, Node& va
             ignoreUnsupportedElementTypeLog(*child);
             continue;
         }
-        if (child->nodeName() != "rule") {
+        if (!isNamed(child->nodeName(), "rule")) {
             continue;
         }
         if (!child->hasAttributes()) {
@@ -201,9 +202,9 @@ void ModelParser::processMocValidationRules(const std::string& mocName, Node& va
         std::string format;
         for (Attr* attr : attributesOf(*child)) {
             const std::string& name = attr->name();
-            if (name == "format") {
+            if (isNamed(name, "format")) {
                 format = getPocoData(attr);
-            } else if (name != "name" && name != "operation" && name != "exceptionText") {
+            } else if (!isNamed(name, "name") && !isNamed(name, "operation") && !isNamed(name, "exceptionText")) {
                 ignoreUnknownAttributeLog(*attr);
             }
         }
@@ -255,31 +256,31 @@ void ModelParser::processAttrChild(Node& child, AttrWrapper& attr, const std::st
     GeneralPropertiesWrapper& properties = attr.getGeneralProperties();
     const std::string& name = child.nodeName();
     ZefReturnT result = ZefOk;
-    if (name == "dataType") {
+    if (isNamed(name, "dataType")) {
         handleDataType(&child, &attr);
-    } else if (name == "domainExtension") {
+    } else if (isNamed(name, "domainExtension")) {
         handleDomainExtension(&child, &properties);
-    } else if (name == "description") {
+    } else if (isNamed(name, "description")) {
         result = properties.setDescription(getPcdata(child));
-    } else if (name == "specification") {
+    } else if (isNamed(name, "specification")) {
         result = properties.setSpecification(getPcdata(child));
-    } else if (name == "mandatory") {
+    } else if (isNamed(name, "mandatory")) {
         result = attr.setIsMandatory(true);
-    } else if (name == "nonPersistent") {
+    } else if (isNamed(name, "nonPersistent")) {
         result = attr.setIsPersistent(false);
-    } else if (name == "readOnly") {
+    } else if (isNamed(name, "readOnly")) {
         result = attr.setIsReadOnly(true);
-    } else if (name == "key") {
+    } else if (isNamed(name, "key")) {
         result = attr.setIsKey(true);
-    } else if (name == "restricted") {
+    } else if (isNamed(name, "restricted")) {
         result = attr.setIsRestricted(true);
-    } else if (name == "noNotification") {
+    } else if (isNamed(name, "noNotification")) {
         result = attr.setIsNotifiable(false);
     } else if (isStatusWord(name)) {
         result = setStatusWord(name, properties);
-    } else if (name == "filter") {
+    } else if (isNamed(name, "filter")) {
         result = properties.setHidden(getPcdata(child));
-    } else if (name == "unit") {
+    } else if (isNamed(name, "unit")) {
         result = attr.setUnit(getPcdata(child));
     } else if (contains(kUnsupportedAttrChildren, name)) {
         ignoreUnsupportedElementLog(child);
@@ -319,14 +320,14 @@ MoActionWrapper* ModelParser::processActionNode(Node& actionElement, MocWrapper&
         const ReadingScope readingChild(*this, *child);
         const std::string& name = child->nodeName();
         ZefReturnT result = ZefOk;
-        if (name == "domainExtension") {
+        if (isNamed(name, "domainExtension")) {
             handleDomainExtension(child, &properties);
-        } else if (name == "returnType") {
+        } else if (isNamed(name, "returnType")) {
             hasReturnType = true;
             handleReturnType(child, action.get());
-        } else if (name == "parameter") {
+        } else if (isNamed(name, "parameter")) {
             handleParameter(*child, *action);
-        } else if (name == "description") {
+        } else if (isNamed(name, "description")) {
             result = properties.setDescription(getPcdata(*child));
         } else if (isStatusWord(name)) {
             result = setStatusWord(name, properties);
@@ -357,12 +358,12 @@ void ModelParser::handleReturnType(Node* returnType, MoActionWrapper* action) {
     if (checkHandlePrimitiveDataType(type, action, result)) {
         return;
     }
-    if (name == "void") {
+    if (isNamed(name, "void")) {
         action->setType(ZefMrType3Void);
     } else if (referenceTypeCode(name) != ZefMrType3NotSet) {
         // A result has no default value.
         handleReference(type, action, false);
-    } else if (name == "sequence") {
+    } else if (isNamed(name, "sequence")) {
         handleSeqDataType(type, action);
     } else if (isCommonUnsupportedDatatype(name)) {
         ignoreUnsupportedElementLog(*type);
@@ -398,20 +399,20 @@ void ModelParser::handleParameter(Node& parameter, MoActionWrapper& action) {
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "description") {
+        if (isNamed(name, "description")) {
             properties.setDescription(getPcdata(*child));
-        } else if (name == "in") {
+        } else if (isNamed(name, "in")) {
             hasIn = true;
-        } else if (name == "dataType") {
+        } else if (isNamed(name, "dataType")) {
             hasDataType = true;
             handleDataType(child, param.get());
-        } else if (name == "domainExtension") {
+        } else if (isNamed(name, "domainExtension")) {
             handleDomainExtension(child, &properties);
             // A parameter that may be nil may also be left out.
             if (properties.isNillable()) {
                 param->setMin("0");
             }
-        } else if (name == "inout" || name == "out" || name == "applicationTag") {
+        } else if (isNamed(name, "inout") || isNamed(name, "out") || isNamed(name, "applicationTag")) {
             ignoreUnsupportedElementLog(*child);
         } else {
             ignoreUnknownElementLog(*child);
@@ -455,9 +456,9 @@ void ModelParser::handleDataType(Node* dataType, T* record) {
     const std::string& name = type->nodeName();
     if (referenceTypeCode(name) != ZefMrType3NotSet) {
         handleReference(type, record, true);
-    } else if (name == "sequence") {
+    } else if (isNamed(name, "sequence")) {
         handleSeqDataType(type, record);
-    } else if (name == "void") {
+    } else if (isNamed(name, "void")) {
         record->setType(ZefMrType3Void);
     } else if (isCommonUnsupportedDatatype(name)) {
         ignoreUnsupportedElementLog(*type);
@@ -483,7 +484,7 @@ bool ModelParser::checkHandlePrimitiveDataType(Node* type, T* record, ZefReturnT
             ignoreUnsupportedElementTypeLog(*child);
             continue;
         }
-        if (child->nodeName() != "defaultValue") {
+        if (!isNamed(child->nodeName(), "defaultValue")) {
             ignoreUnknownElementLog(*child);
             continue;
         }
@@ -497,7 +498,7 @@ bool ModelParser::checkHandlePrimitiveDataType(Node* type, T* record, ZefReturnT
         }
         if (code == ZefMrType3Bool) {
             // Stored in one spelling whatever the model wrote.
-            value = value == "true" || value == "1" ? "true" : "false";
+            value = isNamed(value, "true") || isNamed(value, "1") ? "true" : "false";
         }
         result = record->setDefaultValue(value);
         record->getTypeContainer().addDefaultValue(value);
@@ -511,7 +512,7 @@ void ModelParser::handleReference(Node* reference, T* record, bool allowDefault)
     // Every typed record is also its own reference by name.
     RefId& ref = *record;
     for (Attr* attr : attributesOf(*reference)) {
-        if (attr->name() == "name") {
+        if (isNamed(attr->name(), "name")) {
             ref.setRefName(getPocoData(attr));
         } else {
             ignoreUnknownAttributeLog(*attr);
@@ -523,15 +524,15 @@ void ModelParser::handleReference(Node* reference, T* record, bool allowDefault)
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "mimName") {
+        if (isNamed(name, "mimName")) {
             ref.setRefMomName(getPcdata(*child));
-        } else if (name == "mimVersion") {
+        } else if (isNamed(name, "mimVersion")) {
             ref.setRefMomVersion(getPcdata(*child));
-        } else if (name == "defaultValue" && allowDefault) {
+        } else if (isNamed(name, "defaultValue") && allowDefault) {
             const std::string value = getPcdata(*child);
             record->setDefaultValue(value);
             record->getTypeContainer().addDefaultValue(value);
-        } else if (name == "defaultValue") {
+        } else if (isNamed(name, "defaultValue")) {
             ignoreUnsupportedElementLog(*child);
         } else {
             ignoreUnknownElementLog(*child);
@@ -561,21 +562,21 @@ void ModelParser::handleSeqDataType(Node* sequence, T* record) {
         }
         if (referenceTypeCode(name) != ZefMrType3NotSet) {
             handleReference(child, record, false);
-        } else if (name == "minLength") {
+        } else if (isNamed(name, "minLength")) {
             if (record->setMin(getPcdata(*child)) != ZefOk) {
                 checkThrowException(4, "Invalid min value for attribute (%s).", recordName.c_str());
             }
-        } else if (name == "maxLength") {
+        } else if (isNamed(name, "maxLength")) {
             if (record->setMax(getPcdata(*child)) != ZefOk) {
                 checkThrowException(4, "Invalid max value for attribute (%s).", recordName.c_str());
             }
-        } else if (name == "nonUnique") {
+        } else if (isNamed(name, "nonUnique")) {
             record->setIsUnique(false);
-        } else if (name == "ordered") {
+        } else if (isNamed(name, "ordered")) {
             record->setIsOrdered(true);
-        } else if (name == "seqDefaultValue") {
+        } else if (isNamed(name, "seqDefaultValue")) {
             handleSeqDefaultValue(child, record);
-        } else if (name == "sequence" || isCommonUnsupportedDatatype(name)) {
+        } else if (isNamed(name, "sequence") || isCommonUnsupportedDatatype(name)) {
             ignoreUnsupportedElementLog(*child);
         } else {
             ignoreUnknownElementLog(*child);
@@ -602,7 +603,7 @@ ZefReturnT ModelParser::handleSeqDefaultValue(Node* seqDefaultValue, T* record) 
             ignoreUnsupportedElementTypeLog(*child);
             continue;
         }
-        if (child->nodeName() != "defaultValue") {
+        if (!isNamed(child->nodeName(), "defaultValue")) {
             ignoreUnknownElementLog(*child);
             continue;
         }

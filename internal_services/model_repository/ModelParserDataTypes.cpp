@@ -13,6 +13,7 @@
 #include "LitWrapper.h"
 #include "MomWrapper.h"
 #include "MrUtil.h"
+#include "NameMatch.h"
 #include "StructMemberWrapper.h"
 #include "StructWrapper.h"
 #include "ZefLog.h"
@@ -63,13 +64,13 @@ const char* const kPosixEreFormat = "posix_ere";
 bool applyGeneralProperty(ModelParser& parser, Node& child, GeneralPropertiesWrapper& properties,
                           ZefReturnT& result) {
     const std::string& name = child.nodeName();
-    if (name == "description") {
+    if (isNamed(name, "description")) {
         result = properties.setDescription(parser.getPcdata(child));
-    } else if (name == "specification") {
+    } else if (isNamed(name, "specification")) {
         result = properties.setSpecification(parser.getPcdata(child));
     } else if (ModelParser::isStatusWord(name)) {
         result = parser.setStatusWord(name, properties);
-    } else if (name == "filter") {
+    } else if (isNamed(name, "filter")) {
         // The filter text is kept as the element's hidden property.
         result = properties.setHidden(parser.getPcdata(child));
     } else {
@@ -93,11 +94,11 @@ void readRangeBounds(ModelParser& parser, Node& range, DdtWrapper& ddt,
         }
         const ModelParser::ReadingScope reading(parser, *child);
         const std::string& name = child->nodeName();
-        if (name == "min") {
+        if (isNamed(name, "min")) {
             if ((ddt.*addMin)(parser.getPcdata(*child)) != ZefOk) {
                 parser.checkThrowException(4, kInvalidRangeMin, ddtName.c_str());
             }
-        } else if (name == "max") {
+        } else if (isNamed(name, "max")) {
             if ((ddt.*addMax)(parser.getPcdata(*child)) != ZefOk) {
                 parser.checkThrowException(4, kInvalidRangeMax, ddtName.c_str());
             }
@@ -118,10 +119,10 @@ void readNumericRestrictions(ModelParser& parser, Node& type, DdtWrapper& ddt, b
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "range") {
+        if (isNamed(name, "range")) {
             // Every range element adds one range.
             readRangeBounds(parser, *child, ddt, &DdtWrapper::addRangeMin, &DdtWrapper::addRangeMax);
-        } else if (name == "resolution") {
+        } else if (isNamed(name, "resolution")) {
             const std::string text = parser.getPcdata(*child);
             const ZefReturnT result = isDouble ? ddt.setFloatResolution(text) : ddt.setIntResolution(text);
             if (result != ZefOk) {
@@ -140,7 +141,7 @@ void readNumericRestrictions(ModelParser& parser, Node& type, DdtWrapper& ddt, b
 // not: structs do not nest.
 bool holdsStruct(Node& sequence) {
     for (Node* child = sequence.firstChild(); child != nullptr; child = child->nextSibling()) {
-        if (isElement(*child) && (child->nodeName() == "structRef" || child->nodeName() == "struct")) {
+        if (isElement(*child) && (isNamed(child->nodeName(), "structRef") || isNamed(child->nodeName(), "struct"))) {
             return true;
         }
     }
@@ -168,13 +169,13 @@ EnumWrapper* ModelParser::processEnumNode(Node& enumeration, MomWrapper& mom) {
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "description") {
+        if (isNamed(name, "description")) {
             record->setDescription(getPcdata(*child));
-        } else if (name == "enumMember") {
+        } else if (isNamed(name, "enumMember")) {
             handleEnumMember(*child, *record);
-        } else if (name == "domainExtension") {
+        } else if (isNamed(name, "domainExtension")) {
             handleDomainExtension(child, record.get());
-        } else if (name == "applicationTag") {
+        } else if (isNamed(name, "applicationTag")) {
             ignoreUnsupportedElementLog(*child);
         } else {
             ignoreUnknownElementLog(*child);
@@ -191,7 +192,7 @@ void ModelParser::handleEnumMember(Node& enumMember, EnumWrapper& enumeration) {
     placeRecord(*literal, enumMember);
 
     for (Attr* attr : attributesOf(enumMember)) {
-        if (attr->name() == "name") {
+        if (isNamed(attr->name(), "name")) {
             // An empty name is refused by the record and reported below.
             literal->setName(getPocoData(attr));
         } else {
@@ -213,7 +214,7 @@ void ModelParser::handleEnumMember(Node& enumMember, EnumWrapper& enumeration) {
         }
         const std::string& name = child->nodeName();
         ZefReturnT result = ZefOk;
-        if (name == "value") {
+        if (isNamed(name, "value")) {
             // The published record holds 16 bits only: a value that does not
             // fit is not stored at all rather than stored truncated.
             const std::string text = getPcdata(*child);
@@ -226,7 +227,7 @@ void ModelParser::handleEnumMember(Node& enumMember, EnumWrapper& enumeration) {
             }
         } else if (applyGeneralProperty(*this, *child, *literal, result)) {
             // done
-        } else if (name == "domainExtension") {
+        } else if (isNamed(name, "domainExtension")) {
             handleDomainExtension(child, literal.get());
         } else if (contains(kUnsupportedMemberChildren, name)) {
             ignoreUnsupportedElementLog(*child);
@@ -274,16 +275,16 @@ DdtWrapper* ModelParser::processDdtNode(Node& derivedDataType, MomWrapper& mom) 
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "description") {
+        if (isNamed(name, "description")) {
             ddt->setDescription(getPcdata(*child));
-        } else if (name == "baseType") {
+        } else if (isNamed(name, "baseType")) {
             handleBaseType(*child, *ddt);
-        } else if (name == "domainExtension") {
+        } else if (isNamed(name, "domainExtension")) {
             handleDomainExtension(child, ddt.get());
-        } else if (name == "validationRules") {
+        } else if (isNamed(name, "validationRules")) {
             hasValidationRules = true;
             processDdtValidationRules(ddtName, *child, pattern, exceptionText);
-        } else if (name == "applicationTag") {
+        } else if (isNamed(name, "applicationTag")) {
             ignoreUnsupportedElementLog(*child);
         } else {
             ignoreUnknownElementLog(*child);
@@ -327,13 +328,13 @@ void ModelParser::handleDdtStringDataType(Node& type, DdtWrapper& ddt) {
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "lengthRange") {
+        if (isNamed(name, "lengthRange")) {
             readRangeBounds(*this, *child, ddt, &DdtWrapper::addLengthMin, &DdtWrapper::addLengthMax);
-        } else if (name == "validValues") {
+        } else if (isNamed(name, "validValues")) {
             // The valid values are written as the string's pattern.
             reportSetterResult(ddt.setPattern(getPcdata(*child)), "Ddt (%s) pattern is already set.",
                                "Failed to set ddt (%s) pattern.", ddtName.c_str());
-        } else if (name == "isPassphrase") {
+        } else if (isNamed(name, "isPassphrase")) {
             if (ddt.setIsPassphrase() != ZefOk) {
                 checkThrowException(4, "Failed to set ddt (%s)isPassphrase.", ddtName.c_str());
             }
@@ -356,7 +357,7 @@ void ModelParser::handleBoolDefaultValue(Node& type, DdtWrapper& ddt) {
             ignoreUnsupportedElementTypeLog(*child);
             continue;
         }
-        if (child->nodeName() != "defaultValue") {
+        if (!isNamed(child->nodeName(), "defaultValue")) {
             ignoreUnknownElementLog(*child);
             continue;
         }
@@ -369,7 +370,7 @@ void ModelParser::handleBoolDefaultValue(Node& type, DdtWrapper& ddt) {
             continue;
         }
         // Stored in one spelling whatever the model wrote.
-        value = value == "true" || value == "1" ? "true" : "false";
+        value = isNamed(value, "true") || isNamed(value, "1") ? "true" : "false";
         reportSetterResult(ddt.setDefaultValue(value), "Ddt (%s) default value is already set.",
                            "Failed to set ddt (%s) default value.", ddtName.c_str());
     }
@@ -390,7 +391,7 @@ void ModelParser::processDdtValidationRules(const std::string& ddtName, Node& va
             ignoreUnsupportedElementTypeLog(*child);
             continue;
         }
-        if (child->nodeName() != "rule" || !child->hasAttributes()) {
+        if (!isNamed(child->nodeName(), "rule") || !child->hasAttributes()) {
             ignoreUnknownElementLog(*child);
             continue;
         }
@@ -398,11 +399,11 @@ void ModelParser::processDdtValidationRules(const std::string& ddtName, Node& va
         std::string ruleExceptionText;
         for (Attr* attr : attributesOf(*child)) {
             const std::string& name = attr->name();
-            if (name == "format") {
+            if (isNamed(name, "format")) {
                 format = getPocoData(attr);
-            } else if (name == "exceptionText") {
+            } else if (isNamed(name, "exceptionText")) {
                 ruleExceptionText = getPocoData(attr);
-            } else if (name != "name" && name != "operation") {
+            } else if (!isNamed(name, "name") && !isNamed(name, "operation")) {
                 ignoreUnknownAttributeLog(*attr);
             }
         }
@@ -443,12 +444,12 @@ StructWrapper* ModelParser::processStructNode(Node* structure, MomWrapper* mom) 
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "description") {
+        if (isNamed(name, "description")) {
             record->setDescription(getPcdata(*child));
-        } else if (name == "isExclusive") {
+        } else if (isNamed(name, "isExclusive")) {
             record->setIsExclusive(true);
             ZEF_TRACE("IsExclusive has been read for %s ", structName.c_str());
-        } else if (name == "structMember") {
+        } else if (isNamed(name, "structMember")) {
             std::unique_ptr<StructMemberWrapper> member(processStructMemberNode(child));
             if (member && !momName.empty() && !momVersion.empty()) {
                 member->setMomName(momName);
@@ -466,9 +467,9 @@ StructWrapper* ModelParser::processStructNode(Node* structure, MomWrapper* mom) 
                 return nullptr;
             }
             member.release();
-        } else if (name == "domainExtension") {
+        } else if (isNamed(name, "domainExtension")) {
             handleDomainExtension(child, record.get());
-        } else if (name == "applicationTag") {
+        } else if (isNamed(name, "applicationTag")) {
             ignoreUnsupportedElementLog(*child);
         } else {
             ignoreUnknownElementLog(*child);
@@ -505,22 +506,22 @@ StructMemberWrapper* ModelParser::processStructMemberNode(Node* structMember) {
             // done
         } else if (checkHandlePrimitiveDataType(child, member.get(), typeResult)) {
             // done: the type handler reports its own problems
-        } else if (name == "enumRef" || name == "moRef" || name == "derivedDataTypeRef") {
+        } else if (isNamed(name, "enumRef") || isNamed(name, "moRef") || isNamed(name, "derivedDataTypeRef")) {
             handleReference(child, member.get(), true);
-        } else if (name == "sequence") {
+        } else if (isNamed(name, "sequence")) {
             if (holdsStruct(*child)) {
                 failed = true;
                 checkThrowException(3, "A sequence element within a struct is not allowed to contain a structRef or a struct");
             } else {
                 handleSeqDataType(child, member.get());
             }
-        } else if (name == "structRef") {
+        } else if (isNamed(name, "structRef")) {
             failed = true;
             checkThrowException(3, "structMember is of not allowed type structRef");
-        } else if (name == "struct") {
+        } else if (isNamed(name, "struct")) {
             failed = true;
             checkThrowException(3, "structMember is of not allowed type struct");
-        } else if (name == "domainExtension") {
+        } else if (isNamed(name, "domainExtension")) {
             handleDomainExtension(child, member.get());
         } else if (isCommonUnsupportedDatatype(name) || contains(kUnsupportedMemberChildren, name)) {
             ignoreUnsupportedElementLog(*child);
@@ -540,7 +541,7 @@ void ModelParser::handleDomainExtension(Node* domainExtension, GeneralProperties
     const ReadingScope reading(*this, *domainExtension);
     std::string domain;
     for (Attr* attr : attributesOf(*domainExtension)) {
-        if (attr->name() == "domain") {
+        if (isNamed(attr->name(), "domain")) {
             domain = getPocoData(attr);
         } else {
             ignoreUnsupportedAttributeLog(*attr);
@@ -551,15 +552,15 @@ void ModelParser::handleDomainExtension(Node* domainExtension, GeneralProperties
             ignoreUnsupportedElementTypeLog(*child);
             continue;
         }
-        if (child->nodeName() != "extension") {
+        if (!isNamed(child->nodeName(), "extension")) {
             continue;
         }
         std::string name;
         std::string value;
         for (Attr* attr : attributesOf(*child)) {
-            if (attr->name() == "name") {
+            if (isNamed(attr->name(), "name")) {
                 name = getPocoData(attr);
-            } else if (attr->name() == "value") {
+            } else if (isNamed(attr->name(), "value")) {
                 value = getPocoData(attr);
             } else {
                 ignoreUnsupportedAttributeLog(*attr);

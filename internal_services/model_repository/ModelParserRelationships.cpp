@@ -13,6 +13,7 @@
 #include "GeneralPropertiesWrapper.h"
 #include "MocWrapper.h"
 #include "ModelRepository.h"
+#include "NameMatch.h"
 #include "RecordFiling.h"
 #include "MomWrapper.h"
 #include "UniDirAssociationWrapper.h"
@@ -30,16 +31,16 @@ bool isElement(const Node& node) { return node.nodeType() == Node::ELEMENT_NODE;
 // The elements of a "relationship" that hold the body of one relationship
 // kind; the relationship's own properties are the other children.
 bool isRelationshipBody(const std::string& name) {
-    return name == "containment" || name == "biDirectionalAssociation" || name == "uniDirectionalAssociation";
+    return isNamed(name, "containment") || isNamed(name, "biDirectionalAssociation") || isNamed(name, "uniDirectionalAssociation");
 }
 
 // The warning about a status word a relationship refused. Obsolete and
 // preliminary are misspelled; tools that read the findings know them so.
 const char* relationshipStatusFailure(const std::string& word) {
-    if (word == "deprecated") {
+    if (isNamed(word, "deprecated")) {
         return "Failed to set type (deprecated) of the cont (%s).";
     }
-    if (word == "obsolete") {
+    if (isNamed(word, "obsolete")) {
         return "Failed to set type (obsolate) of the cont (%s).";
     }
     return "Failed to set type (priliminary) of the cont (%s).";
@@ -59,9 +60,9 @@ void readCardinality(ModelParser& parser, Node& cardinality, const std::string& 
     for (Node* child = cardinality.firstChild(); child != nullptr; child = child->nextSibling()) {
         if (!isElement(*child)) {
             parser.ignoreUnsupportedElementTypeLog(*child);
-        } else if (child->nodeName() == "min") {
+        } else if (isNamed(child->nodeName(), "min")) {
             minNode = child;
-        } else if (child->nodeName() == "max") {
+        } else if (isNamed(child->nodeName(), "max")) {
             maxNode = child;
         } else {
             parser.ignoreUnknownElementLog(*child);
@@ -111,7 +112,7 @@ void readRelationshipProperties(ModelParser& parser, Node& relationship, Node& b
             handleBody(*child);
         } else if (isRelationshipBody(name)) {
             continue;
-        } else if (name == "description") {
+        } else if (isNamed(name, "description")) {
             parser.reportSetterResult(properties.setDescription(parser.getPcdata(*child)),
                                       "Description of cont (%s) is already set.",
                                       "Failed to set description of the cont (%s).", recordName.c_str());
@@ -119,17 +120,17 @@ void readRelationshipProperties(ModelParser& parser, Node& relationship, Node& b
             if (parser.setStatusWord(name, properties) != ZefOk) {
                 parser.checkThrowException(4, relationshipStatusFailure(name), recordName.c_str());
             }
-        } else if (name == "specification") {
+        } else if (isNamed(name, "specification")) {
             parser.reportSetterResult(properties.setSpecification(parser.getPcdata(*child)),
                                       "Specification of cont (%s) is already set.",
                                       "Failed to set specification of the cont (%s).", recordName.c_str());
-        } else if (name == "filter") {
+        } else if (isNamed(name, "filter")) {
             parser.reportSetterResult(properties.setHidden(parser.getPcdata(*child)),
                                       "Filter of cont (%s) is already set.", "Failed to set filter of the cont (%s).",
                                       recordName.c_str());
-        } else if (name == "domainExtension") {
+        } else if (isNamed(name, "domainExtension")) {
             parser.handleDomainExtension(child, &properties);
-        } else if (name == "applicationTag" || name == "visibility") {
+        } else if (isNamed(name, "applicationTag") || isNamed(name, "visibility")) {
             parser.ignoreUnsupportedElementLog(*child);
         } else {
             parser.ignoreUnknownElementLog(*child);
@@ -159,15 +160,15 @@ void ModelParser::processRelationshipNode(Node& relationship, MomWrapper& mom) {
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "containment") {
+        if (isNamed(name, "containment")) {
             fileAndPublish(std::unique_ptr<ContWrapper>(processContNode(relationship, *child, mom)),
                            &ModelRepository::addCont, *_repository);
-        } else if (name == "biDirectionalAssociation") {
+        } else if (isNamed(name, "biDirectionalAssociation")) {
             std::unique_ptr<BiDirAssociationWrapper> assoc(new BiDirAssociationWrapper());
             placeRecord(*assoc, relationship);
             processDirectionalAssocNode(relationship, *child, mom, *assoc);
             fileAndPublish(std::move(assoc), &ModelRepository::addBidir, *_repository);
-        } else if (name == "uniDirectionalAssociation") {
+        } else if (isNamed(name, "uniDirectionalAssociation")) {
             std::unique_ptr<UniDirAssociationWrapper> assoc(new UniDirAssociationWrapper());
             placeRecord(*assoc, relationship);
             processDirectionalAssocNode(relationship, *child, mom, *assoc);
@@ -199,19 +200,19 @@ void ModelParser::handleContainment(Node& containment, ContWrapper& cont) {
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "parent") {
+        if (isNamed(name, "parent")) {
             handleContEnd(*child, cont, false);
-        } else if (name == "child") {
+        } else if (isNamed(name, "child")) {
             handleContEnd(*child, cont, true);
-        } else if (name == "notCreatable") {
+        } else if (isNamed(name, "notCreatable")) {
             if (cont.setCanCreate(false) != ZefOk) {
                 checkThrowException(4, "Failed to set type (notCreatable) of the cont (%s).", contName.c_str());
             }
-        } else if (name == "notDeleteable") {
+        } else if (isNamed(name, "notDeleteable")) {
             if (cont.setCanDelete(false) != ZefOk) {
                 checkThrowException(4, "Failed to set type (notDeleteable) of the cont (%s).", contName.c_str());
             }
-        } else if (name == "domainExtension") {
+        } else if (isNamed(name, "domainExtension")) {
             handleDomainExtension(child, &cont);
         } else {
             ignoreUnknownElementLog(*child);
@@ -230,9 +231,9 @@ void ModelParser::handleContEnd(Node& end, ContWrapper& cont, bool kid) {
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "hasClass") {
+        if (isNamed(name, "hasClass")) {
             for (Attr* attr : attributesOf(*child)) {
-                if (attr->name() != "name") {
+                if (!isNamed(attr->name(), "name")) {
                     ignoreUnknownAttributeLog(*attr);
                     continue;
                 }
@@ -247,21 +248,21 @@ void ModelParser::handleContEnd(Node& end, ContWrapper& cont, bool kid) {
             for (Node* item = child->firstChild(); item != nullptr; item = item->nextSibling()) {
                 if (!isElement(*item)) {
                     ignoreUnsupportedElementTypeLog(*item);
-                } else if (item->nodeName() == "mimName") {
+                } else if (isNamed(item->nodeName(), "mimName")) {
                     const std::string mimName = getPcdata(*item);
                     kid ? cont.setChildMimName(mimName) : cont.setParentMimName(mimName);
-                } else if (item->nodeName() == "mimVersion") {
+                } else if (isNamed(item->nodeName(), "mimVersion")) {
                     const std::string mimVersion = getPcdata(*item);
                     kid ? cont.setChildMimVersion(mimVersion) : cont.setParentMimVersion(mimVersion);
                 } else {
                     ignoreUnknownElementLog(*item);
                 }
             }
-        } else if (name == "cardinality") {
+        } else if (isNamed(name, "cardinality")) {
             readCardinality(
                 *this, *child, contName, [&cont](const std::string& text) { return cont.setMin(text); },
                 [&cont](const std::string& text) { return cont.setMax(text); });
-        } else if (name == "description" || name == "applicationTag") {
+        } else if (isNamed(name, "description") || isNamed(name, "applicationTag")) {
             ignoreUnsupportedElementLog(*child);
         } else {
             ignoreUnknownElementLog(*child);
@@ -282,7 +283,7 @@ void ModelParser::processInterMimNode(Node& interMim) {
             ignoreUnsupportedElementTypeLog(*relationship);
             continue;
         }
-        if (relationship->nodeName() != "relationship") {
+        if (!isNamed(relationship->nodeName(), "relationship")) {
             ignoreUnsupportedElementLog(*relationship);
             continue;
         }
@@ -301,13 +302,13 @@ void ModelParser::processInterMimNode(Node& interMim) {
                 continue;
             }
             const std::string& name = child->nodeName();
-            if (name == "domainExtension") {
+            if (isNamed(name, "domainExtension")) {
                 ZEF_TRACE("domainExtension in relationship is handled as part of containment");
             } else if (isStatusWord(name)) {
                 if (setStatusWord(name, *cont) != ZefOk) {
                     checkThrowException(4, relationshipStatusFailure(name), contName.c_str());
                 }
-            } else if (name == "containment") {
+            } else if (isNamed(name, "containment")) {
                 if (hasContainment) {
                     checkThrowException(4,
                                         "Relationship (%s) can have only one containment, taking first and ignoring rest.",
@@ -339,7 +340,7 @@ void ModelParser::processDirectionalAssocNode(Node& relationship, Node& body, Mo
     const ReadingScope reading(*this, relationship);
     assoc.setMom(&mom.getStruct());
     for (Attr* attr : attributesOf(relationship)) {
-        if (attr->name() == "name") {
+        if (isNamed(attr->name(), "name")) {
             const std::string name = getPocoData(attr);
             // An empty name is reported by the repository when the
             // association is added.
@@ -370,7 +371,7 @@ void ModelParser::handleBidirAssociation(Node& body, MomWrapper& mom, BiDirAssoc
             ignoreUnsupportedElementTypeLog(*child);
             continue;
         }
-        if (child->nodeName() != "associationEnd") {
+        if (!isNamed(child->nodeName(), "associationEnd")) {
             ignoreUnknownElementLog(*child);
             continue;
         }
@@ -408,10 +409,10 @@ void ModelParser::handleUnidirAssociation(Node& body, MomWrapper& mom, UniDirAss
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "hasClass") {
+        if (isNamed(name, "hasClass")) {
             std::string mocName;
             for (Attr* attr : attributesOf(*child)) {
-                if (attr->name() == "name") {
+                if (isNamed(attr->name(), "name")) {
                     mocName = getPocoData(attr);
                 } else {
                     ignoreUnknownAttributeLog(*attr);
@@ -422,9 +423,9 @@ void ModelParser::handleUnidirAssociation(Node& body, MomWrapper& mom, UniDirAss
             for (Node* item = child->firstChild(); item != nullptr; item = item->nextSibling()) {
                 if (!isElement(*item)) {
                     ignoreUnsupportedElementTypeLog(*item);
-                } else if (item->nodeName() == "mimName") {
+                } else if (isNamed(item->nodeName(), "mimName")) {
                     mimName = getPcdata(*item);
-                } else if (item->nodeName() == "mimVersion") {
+                } else if (isNamed(item->nodeName(), "mimVersion")) {
                     mimVersion = getPcdata(*item);
                 } else {
                     ignoreUnknownElementLog(*item);
@@ -435,7 +436,7 @@ void ModelParser::handleUnidirAssociation(Node& body, MomWrapper& mom, UniDirAss
             } else {
                 unidir.setOriginMocId(MocWrapper::getMocId(mimName.c_str(), mimVersion.c_str(), mocName.c_str()));
             }
-        } else if (name == "associationEnd") {
+        } else if (isNamed(name, "associationEnd")) {
             std::unique_ptr<AssociationEndWrapper> end(processAssociationEndNode(*child, mom, assocName));
             const std::string endName = end->getName();
             const ZefReturnT result = unidir.setAssociationEnd(end->getId());
@@ -448,7 +449,7 @@ void ModelParser::handleUnidirAssociation(Node& body, MomWrapper& mom, UniDirAss
                                     endName.c_str(), assocName.c_str());
             }
             fileAndPublish(std::move(end), &ModelRepository::addAssocEnd, *_repository);
-        } else if (name == "isExternal") {
+        } else if (isNamed(name, "isExternal")) {
             if (unidir.setIsExternal() != ZefOk) {
                 checkThrowException(4, "Failed to set isExternal for unidir (%s).", assocName.c_str());
             }
@@ -477,7 +478,7 @@ void ModelParser::handleAssociationEnd(Node& end, AssociationEndWrapper& record)
     ZEF_TRACE_ENTER(" >> Processing association's end: %s.", nameAttributeOf(end).c_str());
     const ReadingScope reading(*this, end);
     for (Attr* attr : attributesOf(end)) {
-        if (attr->name() == "name") {
+        if (isNamed(attr->name(), "name")) {
             const std::string name = getPocoData(attr);
             if (record.setName(name) == ZefAlreadyExists) {
                 checkThrowException(3, "AssociationEnd (%s) associated name is already set.", name.c_str());
@@ -493,9 +494,9 @@ void ModelParser::handleAssociationEnd(Node& end, AssociationEndWrapper& record)
             continue;
         }
         const std::string& name = child->nodeName();
-        if (name == "hasClass") {
+        if (isNamed(name, "hasClass")) {
             for (Attr* attr : attributesOf(*child)) {
-                if (attr->name() != "name") {
+                if (!isNamed(attr->name(), "name")) {
                     ignoreUnknownAttributeLog(*attr);
                 } else if (record.setClassifier(getPocoData(attr)) == ZefAlreadyExists) {
                     checkThrowException(3, "AssociationEnd (%s) associated classifier is already set.",
@@ -505,27 +506,27 @@ void ModelParser::handleAssociationEnd(Node& end, AssociationEndWrapper& record)
             for (Node* item = child->firstChild(); item != nullptr; item = item->nextSibling()) {
                 if (!isElement(*item)) {
                     ignoreUnsupportedElementTypeLog(*item);
-                } else if (item->nodeName() == "mimName") {
+                } else if (isNamed(item->nodeName(), "mimName")) {
                     record.setMimName(getPcdata(*item));
-                } else if (item->nodeName() == "mimVersion") {
+                } else if (isNamed(item->nodeName(), "mimVersion")) {
                     record.setMimVersion(getPcdata(*item));
                 } else {
                     ignoreUnknownElementLog(*item);
                 }
             }
-        } else if (name == "cardinality") {
+        } else if (isNamed(name, "cardinality")) {
             readCardinality(
                 *this, *child, endName, [&record](const std::string& text) { return record.setLower(text); },
                 [&record](const std::string& text) { return record.setUpper(text); });
-        } else if (name == "isReserving") {
+        } else if (isNamed(name, "isReserving")) {
             if (record.setIsReserving() != ZefOk) {
                 checkThrowException(4, "Failed to set type (isReserving) of the association (%s).", endName.c_str());
             }
-        } else if (name == "restricted") {
+        } else if (isNamed(name, "restricted")) {
             if (record.setIsRestricted() != ZefOk) {
                 checkThrowException(4, "Failed to set type (isRestricted) of the association (%s).", endName.c_str());
             }
-        } else if (name == "description" || name == "noNotification" || name == "ordered" || name == "defaultValue") {
+        } else if (isNamed(name, "description") || isNamed(name, "noNotification") || isNamed(name, "ordered") || isNamed(name, "defaultValue")) {
             ignoreUnsupportedElementLog(*child);
         } else {
             ignoreUnknownElementLog(*child);
