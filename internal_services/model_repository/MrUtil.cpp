@@ -1,6 +1,7 @@
 #include "MrUtil.h"
 
 #include <cfloat>
+#include <charconv>
 #include <cstdio>
 #include <cstring>
 
@@ -169,11 +170,12 @@ void appendDumpLineHlp(std::string& out, const std::string& indent, const char* 
 
 void appendDumpLineHlp(std::string& out, const std::string& indent, const char* label, long long value)
 {
+    // The model dump writes a dozen numbers for every record of the model.
     char digits[24];
-    const int length = std::snprintf(digits, sizeof(digits), "%lld", value);
+    const std::to_chars_result end = std::to_chars(digits, digits + sizeof(digits), value);
     out += indent;
     out += label;
-    out.append(digits, static_cast<size_t>(length));
+    out.append(digits, static_cast<size_t>(end.ptr - digits));
     out += '\n';
 }
 

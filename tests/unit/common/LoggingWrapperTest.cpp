@@ -614,6 +614,39 @@ TEST_F(LoggingWrapperTest, TraceMessageIsCutAt65535Characters) {
     EXPECT_EQ(second, withoutStamp(lines[1]));
 }
 
+TEST_F(LoggingWrapperTest, TraceMessagesOfTextArgumentsAreFormattedAsPrintfDoes) {
+    const char* volatile nothing = nullptr;
+    logger()->trace_printf("f.cpp", "f", 1, 8, 0, "Found attribute: %s=%s.", "name", "value");
+    logger()->trace_printf("f.cpp", "f", 2, 8, 0, "100%% of %s, %s and %s", "a", nothing, "");
+    logger()->trace_printf("f.cpp", "f", 3, 8, 0, "%s%s%s", "x", "y", "z");
+    logger()->trace_printf("f.cpp", "f", 4, 8, 0, "[%5s|%-3s|%.2s]", "ab", "c", "def");
+    logger()->trace_printf("f.cpp", "f", 5, 8, 0, "%s has %u of %s", "m", 7u, "n");
+    logger()->trace_printf("f.cpp", "f", 6, 8, 0, "no arguments %%");
+    const std::vector<std::string> lines = logLines();
+    ASSERT_EQ(6u, lines.size());
+    const std::string prefix = "TR f.cpp                   :";
+    EXPECT_EQ(prefix + "1     - f                         Found attribute: name=value.", withoutStamp(lines[0]));
+    EXPECT_EQ(prefix + "2     - f                         100% of a, (null) and ", withoutStamp(lines[1]));
+    EXPECT_EQ(prefix + "3     - f                         xyz", withoutStamp(lines[2]));
+    EXPECT_EQ(prefix + "4     - f                         [   ab|c  |de]", withoutStamp(lines[3]));
+    EXPECT_EQ(prefix + "5     - f                         m has 7 of n", withoutStamp(lines[4]));
+    EXPECT_EQ(prefix + "6     - f                         no arguments %", withoutStamp(lines[5]));
+}
+
+TEST_F(LoggingWrapperTest, TraceMessageOfTextArgumentsIsCutWhereverTheLimitFalls) {
+    // Cut inside the literal text, inside an argument and right after one.
+    const std::string head(65530, 'h');
+    logger()->trace_printf("f.cpp", "f", 1, 8, 0, "%s ab %s", head.c_str(), "tail");
+    logger()->trace_printf("f.cpp", "f", 2, 8, 0, "%s%s", head.c_str(), "0123456789");
+    logger()->trace_printf("f.cpp", "f", 3, 8, 0, "%s%s%%", head.c_str(), "12345");
+    const std::vector<std::string> lines = logLines();
+    ASSERT_EQ(3u, lines.size());
+    const std::string prefix = "TR f.cpp                   :";
+    EXPECT_EQ(prefix + "1     - f                         " + head + " ab t", withoutStamp(lines[0]));
+    EXPECT_EQ(prefix + "2     - f                         " + head + "01234", withoutStamp(lines[1]));
+    EXPECT_EQ(prefix + "3     - f                         " + head + "12345", withoutStamp(lines[2]));
+}
+
 TEST_F(LoggingWrapperTest, TraceKindsWriteTheSameLineToTheFile) {
     logger()->trace_printf("MyFile.cpp", "myFunction", 42, 8, 9, " >> in");
     logger()->trace_printf("MyFile.cpp", "myFunction", 43, 8, 10, " << out");
