@@ -116,8 +116,10 @@ def main():
         ("level8", lambda folder: [validator, "-q", "-d", folder], {}),
     ]
     results = {}   # (set label, program) -> list of samples
+    loads = []     # 1-minute load average before each round, and at the end
     try:
         for round_no in range(1, args.rounds + 1):
+            loads.append(os.getloadavg()[0])
             for label, folder, _ in sets:
                 for name, argv_of, extra in programs:
                     shutil.rmtree(log_dir, ignore_errors=True)
@@ -131,6 +133,7 @@ def main():
                     results.setdefault((label, name), []).append((wall, cpu, rss, written))
             sys.stderr.write("round %d of %d done\n" % (round_no, args.rounds))
             sys.stderr.flush()
+        loads.append(os.getloadavg()[0])
     finally:
         shutil.rmtree(scratch, ignore_errors=True)
 
@@ -138,6 +141,8 @@ def main():
         return statistics.median(sample[index] for sample in results[(label, name)])
 
     print("Medians of %d interleaved rounds; ratios are to the bare parse of the same files." % args.rounds)
+    print("Load average (1 min) before each round and at the end: %s (on %d cores)." % (
+        ", ".join("%.2f" % load for load in loads), os.cpu_count() or 0))
     print()
     print("| set | files | MB | run | wall s | CPU s | MB/s | peak RSS MB | log MB | wall ratio | CPU ratio |")
     print("|---|---:|---:|---|---:|---:|---:|---:|---:|---:|---:|")

@@ -252,12 +252,20 @@ std::string typeKey(const Record* record, Builder builder)
 
 std::string AttrWrapper::toString() const
 {
-    const std::string indent = "    ";
+    std::string out;
+    out.reserve(768);
+    appendTo(out);
+    return out;
+}
+
+void AttrWrapper::appendTo(std::string& out) const
+{
+    static const std::string indent = "    ";
+    static const std::string kind = "Attribute ";
     // Built by appending rather than through a stream: the model dump at
     // trace level writes every attribute of the model.
-    std::string out = MrUtil::headerToStringHlp("Attribute ", _attr.generalProperties.name, indent);
-    out.reserve(768);
-    out += MrUtil::generalPropertiesToStringHlp(_attr.generalProperties, indent);
+    MrUtil::appendHeaderHlp(out, kind, _attr.generalProperties.name, indent);
+    MrUtil::appendGeneralPropertiesHlp(out, _attr.generalProperties, indent);
     MrUtil::appendDumpLineHlp(out, indent, "Moc:               ",
                               _attr.moc != nullptr ? MocWrapper::getMocId(_attr.moc) : std::string());
     MrUtil::appendDumpLineHlp(out, indent, "Type:              ", static_cast<long long>(_attr.type));
@@ -295,7 +303,6 @@ std::string AttrWrapper::toString() const
     MrUtil::appendDumpLineHlp(out, indent, "Unit:              ", _attr.unit);
     MrUtil::appendDumpLineHlp(out, indent, "NextAttribute:     ",
                               _attr.next != nullptr ? getAttrId(_attr.next) : std::string());
-    return out;
 }
 
 } // namespace ZefModelRepositoryService

@@ -106,6 +106,8 @@ public:
     /// The dump, indented by four blanks: "    -- Attribute (<name>) --"
     /// and one line per property.
     std::string toString() const;
+    /// toString appended to `out` (a class dump holds all its attributes).
+    void appendTo(std::string& out) const;
 
 private:
     /// The attribute's MOM, or null after logging which link is missing.

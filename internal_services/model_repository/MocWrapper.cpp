@@ -265,11 +265,14 @@ std::string MocWrapper::toString() const
 {
     // Built by appending rather than through a stream: the model dump at
     // trace level writes every class with all its attributes.
-    std::string out = "-- Moc (";
+    std::string out;
+    // About what a class and its attributes take in a dump.
+    out.reserve(1024 + 1024 * _attrs.size());
+    out += "-- Moc (";
     out += MrUtil::str(_moc.generalProperties.name);
     out += ")--\n";
-    out += MrUtil::generalPropertiesToStringHlp(_moc.generalProperties, "");
     const std::string noIndent;
+    MrUtil::appendGeneralPropertiesHlp(out, _moc.generalProperties, noIndent);
     MrUtil::appendDumpLineHlp(out, noIndent, "IsReadOnly:        ", static_cast<long long>(_moc.isReadOnly));
     MrUtil::appendDumpLineHlp(out, noIndent, "Mom:               ", _moc.mom != nullptr ? getMomId() : std::string());
     MrUtil::appendDumpLineHlp(out, noIndent, "IsRoot:            ", static_cast<long long>(_moc.isRoot));
@@ -285,7 +288,7 @@ std::string MocWrapper::toString() const
         out += "parentContainment: null\n";
     }
     for (const AttrWrapper* attr : _attrs) {
-        out += attr->toString();
+        attr->appendTo(out);
     }
     return out;
 }

@@ -143,13 +143,18 @@ std::string headerToStringHlp(const std::string& kind, const char* name, const s
 {
     std::string out;
     out.reserve(indent.size() + kind.size() + 16 + (name != nullptr ? std::strlen(name) : 0));
+    appendHeaderHlp(out, kind, name, indent);
+    return out;
+}
+
+void appendHeaderHlp(std::string& out, const std::string& kind, const char* name, const std::string& indent)
+{
     out += indent;
     out += "-- ";
     out += kind;
     out += '(';
     out += name != nullptr ? name : "";
     out += ") --\n";
-    return out;
 }
 
 void appendDumpLineHlp(std::string& out, const std::string& indent, const char* label, const std::string& value)
@@ -183,12 +188,17 @@ std::string generalPropertiesToStringHlp(const ZefOamSpiGeneralProperties& gp, c
 {
     std::string out;
     out.reserve(5 * (indent.size() + 20) + 64);
+    appendGeneralPropertiesHlp(out, gp, indent);
+    return out;
+}
+
+void appendGeneralPropertiesHlp(std::string& out, const ZefOamSpiGeneralProperties& gp, const std::string& indent)
+{
     appendDumpLineHlp(out, indent, "Name:              ", gp.name);
     appendDumpLineHlp(out, indent, "Description:       ", gp.description);
     appendDumpLineHlp(out, indent, "Specification:     ", gp.specification);
     appendDumpLineHlp(out, indent, "Status:            ", static_cast<long long>(gp.status));
     appendDumpLineHlp(out, indent, "Hidden:            ", gp.hidden);
-    return out;
 }
 
 std::string datatypeContainerToStringHlp(const ZefOamSpiDatatypeContainer& container, const std::string& indent)

@@ -144,9 +144,13 @@ std::string str(const char* text);
 /// "-- <kind>(<name>) --" on one line behind the indent; records pass their
 /// kind word with its trailing blank ("Moc ").
 std::string headerToStringHlp(const std::string& kind, const char* name, const std::string& indent);
+/// headerToStringHlp appended to `out`.
+void appendHeaderHlp(std::string& out, const std::string& kind, const char* name, const std::string& indent);
 /// The five general-property lines (Name, Description, Specification,
 /// Status as its number, Hidden), each behind the indent.
 std::string generalPropertiesToStringHlp(const ZefOamSpiGeneralProperties& gp, const std::string& indent);
+/// generalPropertiesToStringHlp appended to `out`.
+void appendGeneralPropertiesHlp(std::string& out, const ZefOamSpiGeneralProperties& gp, const std::string& indent);
 /// The data type lines of a container, beginning with the type code: Type,
 /// DefaultValue, MultiplicityMin, MultiplicityMax, IsOrdered, IsUnique.
 std::string datatypeContainerToStringHlp(const ZefOamSpiDatatypeContainer& container, const std::string& indent);
