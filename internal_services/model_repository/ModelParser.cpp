@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <memory>
 #include <set>
+#include <string_view>
 
 #include <Poco/AutoPtr.h>
 #include <Poco/DOM/Attr.h>
@@ -73,7 +74,8 @@ const char* const kMomFailedToSet = "Failed to set %s of the mom (%s).";
 using MomSetter = ZefReturnT (*)(MomWrapper&, const std::string&);
 
 // The attributes of "mim" that are stored, with the setter of each.
-const std::pair<const char*, MomSetter> kMomAttributes[] = {
+// Names as views: compared with a name, the lengths are compared first.
+const std::pair<std::string_view, MomSetter> kMomAttributes[] = {
     {"name", [](MomWrapper& mom, const std::string& v) { return mom.getGeneralProperties().setName(v); }},
     {"version", [](MomWrapper& mom, const std::string& v) { return mom.setVersion(v); }},
     {"correction", [](MomWrapper& mom, const std::string& v) { return mom.setCorrection(v); }},
@@ -548,7 +550,8 @@ Poco::XML::Node* ModelParser::initTypes(Node& dataType) {
 }
 
 ZefOamSpiMrType_3 ModelParser::primitiveTypeCode(const std::string& name) {
-    static const std::pair<const char*, ZefOamSpiMrType_3> kPrimitives[] = {
+    // Views: compared with a name, the lengths are compared first.
+    static const std::pair<std::string_view, ZefOamSpiMrType_3> kPrimitives[] = {
         {"int8", ZefMrType3Int8},     {"int16", ZefMrType3Int16},   {"int32", ZefMrType3Int32},
         {"int64", ZefMrType3Int64},   {"uint8", ZefMrType3UInt8},   {"uint16", ZefMrType3UInt16},
         {"uint32", ZefMrType3UInt32}, {"uint64", ZefMrType3UInt64}, {"string", ZefMrType3String},

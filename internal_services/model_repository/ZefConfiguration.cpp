@@ -79,7 +79,9 @@ std::string readFile(const std::string& name, std::uint64_t maxSize) {
     }
     // Read straight into a buffer of the file's size, in as few calls as it
     // takes; a file that turns out longer grows the buffer block by block.
-    std::string content(static_cast<size_t>(st.st_size), '\0');
+    // One byte more than the size: the read that finds the end needs room,
+    // and a full buffer would be grown (and copied) only to learn that.
+    std::string content(static_cast<size_t>(st.st_size) + 1, '\0');
     size_t filled = 0;
     for (;;) {
         if (filled == content.size()) {
