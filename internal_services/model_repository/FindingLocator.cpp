@@ -24,10 +24,10 @@ const GeneralPropertiesWrapper* inMap(const Map& map, const std::string& key) {
 }
 
 // The key of an attribute or action is its class's key followed by "~" and
-// its own name; the class lists it.
-template <typename List>
+// its own name; the class finds it in its key index.
+template <typename Member>
 const GeneralPropertiesWrapper* inClass(const ModelRepository& repository, const std::string& key,
-                                        const List& (MocWrapper::*list)() const) {
+                                        const Member* (MocWrapper::*find)(const std::string&) const) {
     const std::string::size_type last = key.rfind('~');
     if (last == std::string::npos) {
         return nullptr;
@@ -36,12 +36,7 @@ const GeneralPropertiesWrapper* inClass(const ModelRepository& repository, const
     if (moc == repository.getMocMap().end()) {
         return nullptr;
     }
-    for (const auto* member : (moc->second->*list)()) {
-        if (member->getId() == key) {
-            return member;
-        }
-    }
-    return nullptr;
+    return (moc->second->*find)(key);
 }
 
 } // namespace
@@ -60,9 +55,9 @@ const GeneralPropertiesWrapper* FindingLocator::find(RuleSubject subject, const 
     case RuleSubject::Moc:
         return inMap(_repository.getMocMap(), key);
     case RuleSubject::Attribute:
-        return inClass(_repository, key, &MocWrapper::getAttrsList);
+        return inClass(_repository, key, &MocWrapper::findAttr);
     case RuleSubject::Action:
-        return inClass(_repository, key, &MocWrapper::getMoActionList);
+        return inClass(_repository, key, &MocWrapper::findMoAction);
     case RuleSubject::Enum:
         return inMap(_repository.getEnumMap(), key);
     case RuleSubject::Ddt:

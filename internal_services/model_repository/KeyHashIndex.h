@@ -38,22 +38,34 @@ public:
     template <typename List>
     bool contains(const List& list, const std::string& key, std::size_t hash) const
     {
+        return positionOf(list, key, hash) != kNone;
+    }
+
+    /// The position in `list` of the first record whose getId() equals
+    /// `key` of hash `hash`, or kNone.
+    template <typename List>
+    std::size_t positionOf(const List& list, const std::string& key, std::size_t hash) const
+    {
         if (_hashes.size() <= kScanLimit) {
             for (std::size_t at = 0; at < _hashes.size(); ++at) {
                 if (_hashes[at] == static_cast<uint32_t>(hash) && keyAt(list, at) == key) {
-                    return true;
+                    return at;
                 }
             }
-            return false;
+            return kNone;
         }
+        // Duplicates are refused, so at most one listed record has the key.
         const auto candidates = _positions->equal_range(static_cast<uint32_t>(hash));
         for (auto candidate = candidates.first; candidate != candidates.second; ++candidate) {
             if (keyAt(list, candidate->second) == key) {
-                return true;
+                return candidate->second;
             }
         }
-        return false;
+        return kNone;
     }
+
+    /// What positionOf() answers for a key that is not listed.
+    static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
     /// Number of records indexed.
     std::size_t size() const { return _hashes.size(); }

@@ -211,6 +211,18 @@ ZefReturnT MocWrapper::addMoAction(MoActionWrapper* action)
     return appendToChain(_actions, _actionKeys, action, _moc.moAction);
 }
 
+const AttrWrapper* MocWrapper::findAttr(const std::string& key) const
+{
+    const std::size_t at = _attrKeys.positionOf(_attrs, key, KeyHashIndex::hashOf(key));
+    return at == KeyHashIndex::kNone ? nullptr : _attrs[at];
+}
+
+const MoActionWrapper* MocWrapper::findMoAction(const std::string& key) const
+{
+    const std::size_t at = _actionKeys.positionOf(_actions, key, KeyHashIndex::hashOf(key));
+    return at == KeyHashIndex::kNone ? nullptr : _actions[at];
+}
+
 ZefReturnT MocWrapper::addBiDirWrapper(BiDirAssociationWrapper* assoc)
 {
     return appendAssociation(_biDirs, assoc);

@@ -84,6 +84,10 @@ public:
     ZefReturnT addMoAction(MoActionWrapper* action);
     const AttrList& getAttrsList() const { return _attrs; }
     const MoActionList& getMoActionList() const { return _actions; }
+    /// The listed attribute or action with the identity key `key`, or null;
+    /// answered from the key index, without a scan of a long list.
+    const AttrWrapper* findAttr(const std::string& key) const;
+    const MoActionWrapper* findMoAction(const std::string& key) const;
 
     /// Lists an association the class takes part in: ZefNotFound for null,
     /// ZefInvalidArgument for one without identity key; no duplicate check.

@@ -29,6 +29,10 @@ struct IndexedList {
         index.add(hash);
     }
     bool contains(const std::string& key) const { return index.contains(list, key, KeyHashIndex::hashOf(key)); }
+    std::size_t positionOf(const std::string& key) const
+    {
+        return index.positionOf(list, key, KeyHashIndex::hashOf(key));
+    }
 
     std::list<std::unique_ptr<Keyed>> owned;
     std::list<Keyed*> list;
@@ -133,4 +137,23 @@ TEST(KeyHashIndexTest, WorksOverAVectorAsOverAList)
     EXPECT_TRUE(index.contains(list, "v0", KeyHashIndex::hashOf("v0")));
     EXPECT_TRUE(index.contains(list, "v49", KeyHashIndex::hashOf("v49")));
     EXPECT_FALSE(index.contains(list, "v50", KeyHashIndex::hashOf("v50")));
+}
+
+TEST(KeyHashIndexTest, PositionOfAListedKeyInShortAndLongLists)
+{
+    IndexedList short_;
+    IndexedList long_;
+    for (int i = 0; i < 1000; ++i) {
+        if (i < 10) {
+            short_.add("k" + std::to_string(i));
+        }
+        long_.add("k" + std::to_string(i));
+    }
+    EXPECT_EQ(0u, short_.positionOf("k0"));
+    EXPECT_EQ(9u, short_.positionOf("k9"));
+    EXPECT_EQ(KeyHashIndex::kNone, short_.positionOf("k10"));
+    EXPECT_EQ(0u, long_.positionOf("k0"));
+    EXPECT_EQ(777u, long_.positionOf("k777"));
+    EXPECT_EQ(999u, long_.positionOf("k999"));
+    EXPECT_EQ(KeyHashIndex::kNone, long_.positionOf("k1000"));
 }

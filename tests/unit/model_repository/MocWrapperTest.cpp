@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 #include <memory>
 
 #include "AttrWrapper.h"
@@ -282,6 +284,30 @@ TEST(MocWrapperTest, DuplicateAmongManyAttributesAndActionsIsRefused)
     EXPECT_EQ(301u, f.moc.getAttrsList().size());
     EXPECT_EQ(300u, f.moc.getMoActionList().size());
     EXPECT_EQ("x5", f.moc.getAttrsList().back()->getName());
+}
+
+TEST(MocWrapperTest, FindAttrAndActionByKeyInShortAndLongLists)
+{
+    ClassFixture f;
+    EXPECT_EQ(nullptr, f.moc.findAttr("m~1.0~C~a0"));
+    for (int i = 0; i < 100000; ++i) {
+        ASSERT_EQ(ZefOk, f.moc.addAttr(f.attr("a" + std::to_string(i))));
+        if (i < 10) {
+            ASSERT_EQ(ZefOk, f.moc.addMoAction(f.action("x" + std::to_string(i))));
+        }
+    }
+    EXPECT_EQ(f.moc.getAttrsList()[0], f.moc.findAttr("m~1.0~C~a0"));
+    EXPECT_EQ(f.moc.getAttrsList()[99999], f.moc.findAttr("m~1.0~C~a99999"));
+    EXPECT_EQ(nullptr, f.moc.findAttr("m~1.0~C~a100000"));
+    EXPECT_EQ(nullptr, f.moc.findAttr("m~1.0~C~x3"));
+    EXPECT_EQ(f.moc.getMoActionList()[3], f.moc.findMoAction("m~1.0~C~x3"));
+    EXPECT_EQ(nullptr, f.moc.findMoAction("m~1.0~C~a3"));
+    // A hundred thousand lookups in a list as long: an index, not a scan.
+    const auto start = std::chrono::steady_clock::now();
+    for (int i = 0; i < 100000; ++i) {
+        ASSERT_NE(nullptr, f.moc.findAttr("m~1.0~C~a" + std::to_string(i)));
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
 TEST(MocWrapperTest, DumpWithoutContainmentsOrAttributes)
