@@ -16,7 +16,16 @@
 #   log_lacks         lines none of which may occur in the log file (optional)
 #   log_file          the log path when the case moves it (optional; default @LOG@)
 #   check.sh          run with bash in the run folder afterwards; non-zero fails (optional)
+#   bounds            "seconds=N" and "memory_mib=M" lines: the run must end within
+#                     N seconds of wall time (it is killed then) and its peak
+#                     resident memory stay within M MiB (optional)
 # setup.sh and check.sh see the build folder as $E2E_BUILD.
+# Environment of the runner itself (optional):
+#   ZEF_E2E_WRAPPER      a command put before the executable, split at blanks
+#                        (for example "valgrind -q --error-exitcode=99")
+#   ZEF_E2E_BOUND_SCALE  a whole factor applied to both bounds (slower builds)
+#   ZEF_E2E_STATS        a file to which each bounded run appends
+#                        "<case> seconds=... memory_kib=... timed_out=..."
 # Placeholders in every file: @WORK@ the run folder, @LOG@ the default log
 # path (@WORK@/validator.log), @BUILD@ the build folder.
 set -u
@@ -46,6 +55,10 @@ fi
 
 # A clean, predictable environment for every case.
 unset ZEF_LOGGING_FNAME ZEF_LOGGING_LEVEL ZEF_LOGGING_FMAXSIZE ZEF_LOGGING_FMAXCOUNT ZEF_VALIDATOR_LOGGING_LEVEL
+unset ZEF_VALIDATOR_MAX_FILE_SIZE ZEF_VALIDATOR_MAX_DEPTH ZEF_VALIDATOR_MAX_ENTITY_EXPANSION \
+      ZEF_VALIDATOR_MAX_PATTERN_LENGTH ZEF_VALIDATOR_MAX_PATTERN_REPEAT ZEF_VALIDATOR_MAX_PATTERN_SIZE \
+      ZEF_VALIDATOR_MAX_PATTERN_VALUE ZEF_VALIDATOR_MAX_PATTERN_TIME ZEF_VALIDATOR_MAX_PATTERN_MEMORY \
+      ZEF_VALIDATOR_MAX_PATTERN_TOTAL_TIME
 export TMPDIR="$run/tmp"
 export USER=tester
 export ZEF_VALIDATOR_LOGGING_FNAME="$log_default"
@@ -67,11 +80,38 @@ if [[ -f "$case_dir/setup.sh" ]]; then
     bash "$case_dir/setup.sh" || { echo "setup.sh failed"; exit 1; }
 fi
 
-"$exe" "${args[@]}" > "$work/stdout" 2> "$work/stderr" < /dev/null
-status=$?
+wrapper=()
+if [[ -n "${ZEF_E2E_WRAPPER:-}" ]]; then
+    read -r -a wrapper <<< "$ZEF_E2E_WRAPPER"
+fi
+max_seconds=""
+max_mib=""
+if [[ -f "$case_dir/bounds" ]]; then
+    scale=${ZEF_E2E_BOUND_SCALE:-1}
+    max_seconds=$(( $(sed -n 's/^seconds=//p' "$case_dir/bounds") * scale ))
+    max_mib=$(( $(sed -n 's/^memory_mib=//p' "$case_dir/bounds") * scale ))
+    "$build/bin/zef_bounded_run" "$max_seconds" "$work/stats" "${wrapper[@]}" "$exe" "${args[@]}" \
+        > "$work/stdout" 2> "$work/stderr" < /dev/null
+    status=$?
+else
+    "${wrapper[@]}" "$exe" "${args[@]}" > "$work/stdout" 2> "$work/stderr" < /dev/null
+    status=$?
+fi
 
 fail=0
 report() { echo "FAIL: $*"; fail=1; }
+
+if [[ -n "$max_seconds" ]]; then
+    stats=$(cat "$work/stats" 2>/dev/null)
+    [[ -n "${ZEF_E2E_STATS:-}" ]] && echo "$(basename "$case_dir") $stats" >> "$ZEF_E2E_STATS"
+    if [[ "$stats" != *"timed_out=0"* ]]; then
+        report "did not end within $max_seconds s ($stats)"
+    fi
+    kib=$(sed -n 's/.*memory_kib=\([0-9]*\).*/\1/p' <<< "$stats")
+    if [[ -z "$kib" || "$kib" -gt $(( max_mib * 1024 )) ]]; then
+        report "peak memory above $max_mib MiB ($stats)"
+    fi
+fi
 
 subst "$case_dir/expected_stdout" > "$work/expected_stdout"
 if ! cmp -s "$work/expected_stdout" "$work/stdout"; then

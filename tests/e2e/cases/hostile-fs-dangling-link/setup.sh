@@ -1,0 +1,1 @@
+ln -s missing.xml a.xml

@@ -1,0 +1,2 @@
+mkdir -p dir/sub.xml
+cp a.xml dir/

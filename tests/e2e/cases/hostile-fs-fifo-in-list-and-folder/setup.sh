@@ -1,0 +1,3 @@
+mkdir dir
+mkfifo dir/p.xml pipe.xml
+printf 'a.xml\npipe.xml\n' > list

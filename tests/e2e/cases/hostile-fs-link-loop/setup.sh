@@ -1,0 +1,2 @@
+ln -s b.xml a.xml
+ln -s a.xml b.xml

@@ -1,0 +1,2 @@
+echo keep > validator.log-1
+echo keep > notes.1

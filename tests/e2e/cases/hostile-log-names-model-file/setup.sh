@@ -1,0 +1,1 @@
+cp a.xml a.xml.orig

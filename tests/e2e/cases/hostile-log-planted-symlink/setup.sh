@@ -1,0 +1,2 @@
+echo precious > precious.txt
+ln -s ../precious.txt tmp/zef_model_validator_tester.log
