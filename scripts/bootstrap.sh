@@ -8,6 +8,7 @@ packages=(
   g++ cmake make pkg-config dpkg-dev groff-base man-db gzip
   libpoco-dev libexpat1
   libgtest-dev libbenchmark-dev python3
+  clang libclang-rt-dev
 )
 
 if [[ $(id -u) -ne 0 ]]; then
