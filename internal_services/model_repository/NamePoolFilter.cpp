@@ -26,7 +26,8 @@ NamePoolFilter::NamePoolFilter(Poco::XML::XMLReader* parent, XmlParseStop& stop)
 
 void NamePoolFilter::use(const XMLString& qname, const XMLString& uri, std::string_view localName) {
     const std::hash<std::string> hasher;
-    const std::size_t hash = hasher(qname) * 31 + hasher(uri);
+    // Most documents use no namespace: the URI is then not hashed.
+    const std::size_t hash = uri.empty() ? hasher(qname) : hasher(qname) * 31 + hasher(uri);
     std::size_t at = hash & (kSlots - 1);
     while (_slots[at].used) {
         const Name& name = _slots[at];

@@ -33,13 +33,17 @@ for option in -h --help -v --version -d --directory -c --config -p --plugins -m 
     expect_word "$option"
 done
 for variable in ZEF_VALIDATOR_LOGGING_FNAME ZEF_VALIDATOR_LOGGING_LEVEL USER TMPDIR \
-                ZEF_LOGGING_FMAXSIZE ZEF_LOGGING_FMAXCOUNT ZEF_LOGGING_LEVEL ZEF_LOGGING_FNAME; do
+                ZEF_LOGGING_FMAXSIZE ZEF_LOGGING_FMAXCOUNT ZEF_LOGGING_LEVEL ZEF_LOGGING_FNAME \
+                ZEF_VALIDATOR_MAX_FILE_SIZE ZEF_VALIDATOR_MAX_DEPTH ZEF_VALIDATOR_MAX_ENTITY_EXPANSION \
+                ZEF_VALIDATOR_MAX_PATTERN_LENGTH ZEF_VALIDATOR_MAX_PATTERN_REPEAT ZEF_VALIDATOR_MAX_PATTERN_SIZE \
+                ZEF_VALIDATOR_MAX_PATTERN_VALUE ZEF_VALIDATOR_MAX_PATTERN_TIME ZEF_VALIDATOR_MAX_PATTERN_MEMORY \
+                ZEF_VALIDATOR_MAX_PATTERN_TOTAL_TIME; do
     expect_word "$variable"
 done
 
 # Section headings.
-for heading in NAME SYNOPSIS DESCRIPTION OPTIONS OUTPUT REPORTS "EXIT STATUS" ENVIRONMENT "LOG FILE" PLUG-INS \
-               EXAMPLES; do
+for heading in NAME SYNOPSIS DESCRIPTION OPTIONS OUTPUT REPORTS "EXIT STATUS" ENVIRONMENT "LOG FILE" LIMITS \
+               PLUG-INS EXAMPLES; do
     grep -qx -- "$heading" <<< "$text" || fail "the page lacks the section $heading"
 done
 
@@ -65,6 +69,8 @@ expect_phrase '$TMPDIR//zef_model_validator_$USER.log'
 expect_phrase '/tmp/zef_model_validator_$USER.log'
 expect_phrase 'named after it: NAME.1, NAME.2, ...'
 expect_phrase 'beside the active log file, in the same folder'
+expect_phrase 'Rotation renames and deletes only files named exactly NAME.digits'
+expect_phrase 'Default: 268435456 (256 MiB).'
 
 # The plug-in contract and an example run.
 expect_phrase 'getZefOamApiStaticValidatorInterface(void);'
