@@ -32,7 +32,11 @@ struct GuardedRead {
 using GuardFactory = std::function<std::unique_ptr<ZefModelRepositoryService::XmlGuardFilter>(
     Poco::XML::XMLReader*, ZefModelRepositoryService::XmlParseStop&)>;
 
-inline GuardedRead readGuarded(std::string text, const GuardFactory& makeFilter) {
+/// Reads `text` through the filter `makeFilter` makes; `afterRead`, when
+/// given, sees the filter after the read, before it goes.
+inline GuardedRead readGuarded(std::string text, const GuardFactory& makeFilter,
+                               const std::function<void(ZefModelRepositoryService::XmlGuardFilter&)>& afterRead =
+                                   nullptr) {
     GuardedRead result;
     Poco::XML::SAXParser reader;
     reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACES, true);
@@ -47,6 +51,9 @@ inline GuardedRead readGuarded(std::string text, const GuardFactory& makeFilter)
     }
     result.refusal = stop.reason();
     result.text = text;
+    if (afterRead) {
+        afterRead(*filter);
+    }
     return result;
 }
 
