@@ -62,3 +62,21 @@ TEST(RefIdTest, CopyHoldsItsOwnParts)
     empty = ref;
     EXPECT_EQ("m~~C", empty.getRefId());
 }
+
+TEST(RefIdTest, ReferencesToOneTargetShareTheirTexts)
+{
+    RefId first;
+    first.setRefName("Unit");
+    first.setRefMomName("Mom");
+    first.setRefMomVersion("2");
+    RefId second;
+    second.setRefMomVersion("2");
+    second.setRefMomName("Mom");
+    second.setRefName("Unit");
+    EXPECT_EQ(first.getRefId(), second.getRefId());
+    EXPECT_EQ(&first.getRefName(), &second.getRefName());
+    EXPECT_EQ(&first.getRefMomName(), &second.getRefMomName());
+    second.setRefName("Other");
+    EXPECT_EQ("Mom~2~Unit", first.getRefId());
+    EXPECT_EQ("Mom~2~Other", second.getRefId());
+}
