@@ -7,8 +7,15 @@ namespace ZefModelRepositoryService {
 
 namespace {
 
+// g++ names an AddressSanitizer build with a macro, clang with a feature.
 #if defined(__SANITIZE_ADDRESS__)
 const bool kBypass = true;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+const bool kBypass = true;
+#else
+const bool kBypass = false;
+#endif
 #else
 const bool kBypass = false;
 #endif
