@@ -230,6 +230,8 @@ void LoggingWrapper::set_fname(const std::string& fname) {
         return;
     adoptPath(fname);
     closeFile();
+    // Another file gets its own chance after a failed write to this one.
+    _writeFailed = false;
     // After close() nothing may be written any more, so the new file is not created.
     if (!_closed)
         openFile();

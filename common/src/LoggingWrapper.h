@@ -111,11 +111,21 @@ private:
     void openFile();
     /// Whether the file of `info` is one that refuse_file() named.
     bool isRefused(const struct stat& info) const;
-    /// Closes the active file (if any) and forgets it.
+    /// Closes the active file (if any) and forgets it; lines still buffered
+    /// that cannot be written are reported as a failed write.
     void closeFile();
     /// Writes one line and its newline to the active file, or to standard
     /// error when no file is open. `flush` pushes the file buffer to disk.
+    /// A failed write gives the file up (see giveUpFile) and sends the line
+    /// to standard error.
     void writeLine(const char* line, size_t length, bool flush);
+    /// After a write to the active file failed with `error`: one line on
+    /// standard error, the unwritten buffer dropped, the file closed and not
+    /// opened again until set_fname() names another one; later lines go to
+    /// standard error.
+    void giveUpFile(int error);
+    /// The one line on standard error about a failed write to the log file.
+    void reportWriteFailure(int error) const;
     /// Formats a trace line for the file into `text` (of `size` bytes):
     /// "time level file:line - function message", the message cut as the
     /// trace cuts it. Returns the length of the line.
@@ -150,6 +160,9 @@ private:
     int _lastIndex = 999999;
     FILE* _file = nullptr;
     bool _closed = false;
+    // Set when a write to the file failed (disk full, file size limit): the
+    // file is not opened again for every line only to fail once more.
+    bool _writeFailed = false;
 
     // Size of the active file: taken from the file once at open, then counted
     // as lines are written, so that the rotation check needs no system call.

@@ -5,6 +5,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <stdio_ext.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -31,6 +32,8 @@ bool isWritable(const std::string& path) { return access(path.c_str(), W_OK) == 
 } // namespace
 
 void LoggingWrapper::openFile() {
+    if (_writeFailed)
+        return;
     // The default log lives in a shared temporary folder under a name anyone
     // can predict: a symbolic link, a FIFO or a second hard link planted
     // there must never make the tool write into another file or wait for a
@@ -94,6 +97,17 @@ void LoggingWrapper::refuse_file(const std::string& path) {
 void LoggingWrapper::closeFile() {
     if (_file == nullptr)
         return;
+    // Trace lines wait in the buffer; a failure to write them is a failed
+    // write, not a failed close, and the buffer is dropped so that fclose
+    // does not fail over it a second time. A flush of every stream made
+    // elsewhere (fflush(NULL)) may have met the failure first and left only
+    // the stream's error flag.
+    if (std::fflush(_file) != 0) {
+        reportWriteFailure(errno);
+        __fpurge(_file);
+    } else if (ferror_unlocked(_file)) {
+        reportWriteFailure(EIO);
+    }
     if (std::fclose(_file) != 0) {
         const int error = errno;
         std::fprintf(stderr, "Failed to close log file. Errno: %d: %s\n", error, std::strerror(error));
@@ -111,11 +125,43 @@ void LoggingWrapper::writeLine(const char* line, size_t length, bool flush) {
     }
     // The file is only ever written under the logger's lock, so the
     // stream's own locking is left out.
-    _fileSize += fwrite_unlocked(line, 1, length, _file);
-    if (putc_unlocked('\n', _file) != EOF)
+    int error = 0;
+    const size_t written = fwrite_unlocked(line, 1, length, _file);
+    _fileSize += written;
+    if (written != length) {
+        error = errno;
+    } else if (putc_unlocked('\n', _file) == EOF) {
+        error = errno;
+    } else {
         ++_fileSize;
-    if (flush)
-        std::fflush(_file);
+        if (flush && std::fflush(_file) != 0)
+            error = errno;
+    }
+    if (error == 0 && ferror_unlocked(_file))
+        error = EIO;  // an earlier failure the stream kept to itself
+    if (error == 0)
+        return;
+    giveUpFile(error);
+    // The line is not lost: it goes where the lines after it go.
+    std::fprintf(stderr, "%s\n", line);
+    std::fflush(stderr);
+}
+
+void LoggingWrapper::giveUpFile(int error) {
+    // A full disk or a file size limit fails every later write as well:
+    // one line tells the user, and writing on into the file (or opening it
+    // again for each line) would only fail again.
+    reportWriteFailure(error != 0 ? error : EIO);
+    // Reported once: closing must neither write the rest nor report again.
+    __fpurge(_file);
+    clearerr_unlocked(_file);
+    closeFile();
+    _writeFailed = true;
+}
+
+void LoggingWrapper::reportWriteFailure(int error) const {
+    std::fprintf(stderr, "Failed to write log file %s. Errno: %d: %s\n", _fname.c_str(), error, std::strerror(error));
+    std::fflush(stderr);
 }
 
 void LoggingWrapper::check_and_rotate_log_file() {

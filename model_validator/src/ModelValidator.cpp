@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -381,6 +382,10 @@ int run(int argc, char** argv, ReportSession& report) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // Under a file size limit the kernel ends a process that writes past it
+    // with SIGXFSZ. Ignored, the write fails with EFBIG instead: the log
+    // writer reports it and goes on, and the run ends with its own status.
+    std::signal(SIGXFSZ, SIG_IGN);
 #ifdef M_MXFAST
     // The records of the model stay for the whole run while one document
     // after another is built and released among them. Fast bins would keep

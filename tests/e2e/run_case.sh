@@ -19,6 +19,11 @@
 #   bounds            "seconds=N" and "memory_mib=M" lines: the run must end within
 #                     N seconds of wall time (it is killed then) and its peak
 #                     resident memory stay within M MiB (optional)
+#   ulimit            "file_kib=N": the executable (with its wrapper and the
+#                     bounded run) gets a file size limit of N KiB (ulimit -f),
+#                     set in its own subshell only; its standard output and
+#                     error reach the runner through pipes, so the limit cuts
+#                     only the files the run writes itself (optional)
 # setup.sh and check.sh see the build folder as $E2E_BUILD.
 # Environment of the runner itself (optional):
 #   ZEF_E2E_WRAPPER      a command put before the executable, split at blanks
@@ -86,15 +91,29 @@ if [[ -n "${ZEF_E2E_WRAPPER:-}" ]]; then
 fi
 max_seconds=""
 max_mib=""
+command=("${wrapper[@]}" "$exe" "${args[@]}")
 if [[ -f "$case_dir/bounds" ]]; then
     scale=${ZEF_E2E_BOUND_SCALE:-1}
     max_seconds=$(( $(sed -n 's/^seconds=//p' "$case_dir/bounds") * scale ))
     max_mib=$(( $(sed -n 's/^memory_mib=//p' "$case_dir/bounds") * scale ))
-    "$build/bin/zef_bounded_run" "$max_seconds" "$work/stats" "${wrapper[@]}" "$exe" "${args[@]}" \
-        > "$work/stdout" 2> "$work/stderr" < /dev/null
+    command=("$build/bin/zef_bounded_run" "$max_seconds" "$work/stats" "${command[@]}")
+fi
+file_kib=""
+if [[ -f "$case_dir/ulimit" ]]; then
+    file_kib=$(sed -n 's/^file_kib=//p' "$case_dir/ulimit")
+fi
+if [[ -n "$file_kib" ]]; then
+    mkfifo "$work/stdout.pipe" "$work/stderr.pipe"
+    cat "$work/stdout.pipe" > "$work/stdout" &
+    stdout_reader=$!
+    cat "$work/stderr.pipe" > "$work/stderr" &
+    stderr_reader=$!
+    ( ulimit -f "$file_kib" && exec "${command[@]}" ) \
+        > "$work/stdout.pipe" 2> "$work/stderr.pipe" < /dev/null
     status=$?
+    wait "$stdout_reader" "$stderr_reader"
 else
-    "${wrapper[@]}" "$exe" "${args[@]}" > "$work/stdout" 2> "$work/stderr" < /dev/null
+    "${command[@]}" > "$work/stdout" 2> "$work/stderr" < /dev/null
     status=$?
 fi
 

@@ -7,10 +7,12 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <chrono>
+#include <csignal>
 #include <string>
 #include <vector>
 
@@ -51,6 +53,43 @@ protected:
 
     ScratchDir scratch{"logfile"};
 };
+
+/// Lowers the file size limit of the test process to `bytes` and ignores
+/// SIGXFSZ, as the validator does, so that a write past the limit fails
+/// with EFBIG; both are restored at the end of the scope. Meanwhile only the
+/// log file and the captured standard error are written, the latter far
+/// below the limit.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        _savedHandler = std::signal(SIGXFSZ, SIG_IGN);
+        _saved.rlim_cur = _saved.rlim_max = RLIM_INFINITY;
+        struct rlimit limit;
+        _set = getrlimit(RLIMIT_FSIZE, &_saved) == 0 && bytes <= _saved.rlim_max;
+        if (_set) {
+            limit = _saved;
+            limit.rlim_cur = bytes;
+            _set = setrlimit(RLIMIT_FSIZE, &limit) == 0;
+        }
+    }
+    ~FileSizeLimit() {
+        if (_set)
+            setrlimit(RLIMIT_FSIZE, &_saved);
+        std::signal(SIGXFSZ, _savedHandler);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+    bool isSet() const { return _set; }
+
+private:
+    struct rlimit _saved;
+    void (*_savedHandler)(int);
+    bool _set = false;
+};
+
+// A log file that has reached the file size limit.
+const size_t kFullLogSize = 4096;
 
 // ---- opening ------------------------------------------------------------------------------
 
@@ -145,6 +184,85 @@ TEST_F(LoggingWrapperFileTest, RefusingAnotherFileKeepsTheLog) {
     logger()->log_printf("f", 3, 1, "two");
     EXPECT_EQ("", GetCapturedStderr());
     EXPECT_EQ(2u, ScratchDir::lines(logPath()).size());
+}
+
+// ---- writes that fail -----------------------------------------------------------------------
+
+TEST_F(LoggingWrapperFileTest, FailedWriteIsReportedOnceAndLinesGoToStandardError) {
+    const std::string old(kFullLogSize, 'o');
+    scratch.write("zef.log", old);
+    std::string err;
+    {
+        FileSizeLimit limit(kFullLogSize);
+        ASSERT_TRUE(limit.isSet());
+        CaptureStderr();
+        logger()->log_printf("f", 3, 1, "first");
+        logger()->log_printf("f", 3, 1, "second");
+        logger()->log_printf("f", 3, 1, "third");
+        err = GetCapturedStderr();
+    }
+    const std::string failure = "Failed to write log file " + logPath() + ". Errno: 27: File too large\n";
+    ASSERT_EQ(0u, err.find(failure)) << err;
+    const std::string lines = err.substr(failure.size());
+    const std::string first = "ER f                         first\n";
+    const std::string second = "ER f                         second\n";
+    const std::string third = "ER f                         third\n";
+    ASSERT_EQ(3 * kStampLength + first.size() + second.size() + third.size(), lines.size()) << err;
+    EXPECT_EQ(first, lines.substr(kStampLength, first.size()));
+    EXPECT_EQ(second, lines.substr(2 * kStampLength + first.size(), second.size()));
+    EXPECT_EQ(third, lines.substr(3 * kStampLength + first.size() + second.size()));
+    EXPECT_FALSE(LoggingWrapperTestAccess::hasOpenFile());
+    EXPECT_EQ(old, ScratchDir::read(logPath()));
+}
+
+TEST_F(LoggingWrapperFileTest, BufferedTracesThatCannotBeWrittenAreReportedAtClose) {
+    const std::string old(kFullLogSize, 'o');
+    scratch.write("zef.log", old);
+    std::string err;
+    {
+        FileSizeLimit limit(kFullLogSize);
+        ASSERT_TRUE(limit.isSet());
+        // Capturing flushes every stream, so it starts before the trace
+        // line is buffered.
+        CaptureStderr();
+        logger()->trace_printf("t.cpp", "f", 1, 8, 0, "%s", "buffered");
+        LoggingWrapperTestAccess::release();
+        err = GetCapturedStderr();
+    }
+    EXPECT_EQ("Failed to write log file " + logPath() + ". Errno: 27: File too large\n", err);
+    EXPECT_EQ(old, ScratchDir::read(logPath()));
+}
+
+TEST_F(LoggingWrapperFileTest, AnotherLogFileIsWrittenAfterAFailedWrite) {
+    scratch.write("zef.log", std::string(kFullLogSize, 'o'));
+    {
+        FileSizeLimit limit(kFullLogSize);
+        ASSERT_TRUE(limit.isSet());
+        CaptureStderr();
+        logger()->log_printf("f", 3, 1, "lost");
+        logger()->set_fname(scratch.file("other.log"));
+        logger()->log_printf("f", 3, 1, "kept");
+        GetCapturedStderr();
+    }
+    LoggingWrapperTestAccess::flush();
+    const std::vector<std::string> lines = ScratchDir::lines(scratch.file("other.log"));
+    ASSERT_EQ(1u, lines.size());
+    EXPECT_EQ("ER f                         kept", lines[0].substr(kStampLength));
+}
+
+TEST_F(LoggingWrapperFileTest, FailureMetByAFlushOfEveryStreamIsReportedAtClose) {
+    scratch.write("zef.log", std::string(kFullLogSize, 'o'));
+    std::string err;
+    {
+        FileSizeLimit limit(kFullLogSize);
+        ASSERT_TRUE(limit.isSet());
+        CaptureStderr();
+        logger()->trace_printf("t.cpp", "f", 1, 8, 0, "%s", "buffered");
+        std::fflush(nullptr);
+        LoggingWrapperTestAccess::release();
+        err = GetCapturedStderr();
+    }
+    EXPECT_EQ("Failed to write log file " + logPath() + ". Errno: 5: Input/output error\n", err);
 }
 
 // ---- rotation --------------------------------------------------------------------------------

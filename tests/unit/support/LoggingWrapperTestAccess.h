@@ -40,6 +40,7 @@ public:
         wrapper->_firstIndex = 1;
         wrapper->_lastIndex = 999999;
         wrapper->_closed = false;
+        wrapper->_writeFailed = false;
         wrapper->_refusedFiles.clear();
     }
 
