@@ -9,6 +9,7 @@ packages=(
   libpoco-dev libexpat1
   libgtest-dev libbenchmark-dev python3
   clang libclang-rt-dev
+  valgrind
 )
 
 if [[ $(id -u) -ne 0 ]]; then
