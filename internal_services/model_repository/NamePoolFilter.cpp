@@ -22,32 +22,30 @@ std::string_view localPart(const XMLString& qname) {
 } // namespace
 
 NamePoolFilter::NamePoolFilter(Poco::XML::XMLReader* parent, XmlParseStop& stop)
-    : XmlGuardFilter(parent, stop), _slots(kSlots) {}
+    : XmlGuardFilter(parent, stop), _slots(kSlots, Slot{0, 0}) {}
 
 void NamePoolFilter::use(const XMLString& qname, const XMLString& uri, std::string_view localName) {
     const std::hash<std::string> hasher;
     // Most documents use no namespace: the URI is then not hashed.
     const std::size_t hash = uri.empty() ? hasher(qname) : hasher(qname) * 31 + hasher(uri);
     std::size_t at = hash & (kSlots - 1);
-    while (_slots[at].used) {
-        const Name& name = _slots[at];
-        if (name.hash == hash && name.qname == qname && name.uri == uri && name.localName == localName) {
-            return;
+    while (_slots[at].name != 0) {
+        const Slot& slot = _slots[at];
+        if (slot.hash == hash) {
+            const Name& name = _names[slot.name - 1];
+            if (name.qname == qname && name.uri == uri && name.localName == localName) {
+                return;
+            }
         }
         at = (at + 1) & (kSlots - 1);
     }
-    if (_size == kCapacity) {
+    if (_names.size() == kCapacity) {
         refuse("more than " + std::to_string(kCapacity) +
                " distinct element and attribute names, more than a DOM document holds");
         return;
     }
-    Name& name = _slots[at];
-    name.used = true;
-    name.hash = hash;
-    name.qname = qname;
-    name.uri = uri;
-    name.localName.assign(localName.data(), localName.size());
-    ++_size;
+    _names.push_back(Name{qname, uri, std::string(localName.data(), localName.size())});
+    _slots[at] = Slot{hash, static_cast<std::uint32_t>(_names.size())};
 }
 
 void NamePoolFilter::startElement(const XMLString& uri, const XMLString& localName, const XMLString& qname,

@@ -2,6 +2,7 @@
 #define ZEF_NAME_POOL_FILTER_H
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,23 +31,27 @@ public:
                       const Poco::XML::XMLString& qname, const Poco::XML::Attributes& attributes) override;
 
     /// The number of distinct names met so far.
-    std::size_t size() const { return _size; }
+    std::size_t size() const { return _names.size(); }
 
 private:
     struct Name {
-        std::size_t hash = 0;
-        bool used = false;
         std::string qname;
         std::string uri;
         std::string localName;
+    };
+    struct Slot {
+        std::size_t hash;
+        std::uint32_t name;  // 1 + the index of the name in _names; 0 while free
     };
 
     /// Counts one name; refuses the document when it is one too many.
     void use(const Poco::XML::XMLString& qname, const Poco::XML::XMLString& uri, std::string_view localName);
 
     // Open addressing over twice the capacity: never more than half full.
-    std::vector<Name> _slots;
-    std::size_t _size = 0;
+    // The slots are plain values, so that a document with a dozen names
+    // costs no more than clearing them; the names are kept apart.
+    std::vector<Slot> _slots;
+    std::vector<Name> _names;
 };
 
 } // namespace ZefModelRepositoryService
