@@ -187,10 +187,11 @@ TEST(PatternGuardDirectTest, RepeatedPairIsCheckedOnce) {
     const std::string value = randomAbText(4096);
     EXPECT_EQ("pattern check took longer than 100 ms", guard.match("(a|b)*a(a|b){80}c", value).reason);
     EXPECT_EQ(-1, guard.worker().childId());
-    // The same pair again: the kept outcome, at once and without a checker.
+    // The same pair again: the kept outcome, without a checker. Checked
+    // again, the pair would take the whole time limit once more.
     const auto start = std::chrono::steady_clock::now();
     const PatternGuard::Result again = guard.match("(a|b)*a(a|b){80}c", value);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(50));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(100));
     EXPECT_EQ(Outcome::Refused, again.outcome);
     EXPECT_EQ("pattern check took longer than 100 ms", again.reason);
     EXPECT_EQ(-1, guard.worker().childId());
