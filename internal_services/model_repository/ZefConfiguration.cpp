@@ -60,9 +60,8 @@ PathKind classify(const std::string& name) {
 // name is never interpreted as a URI by the XML reader. It is opened
 // without blocking and checked again once open, so a file replaced by a
 // FIFO or a device after the first check cannot stall the run, and its
-// size is bounded before and while it is read. The text goes into
-// `buffer` from its start; returns its length.
-size_t readFile(const std::string& name, std::uint64_t maxSize, std::string& buffer) {
+// size is bounded before and while it is read.
+std::string readFile(const std::string& name, std::uint64_t maxSize) {
     const int fd = ::open(name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (fd < 0) {
         throw ZefException(name + " is not readable");
@@ -78,19 +77,17 @@ size_t readFile(const std::string& name, std::uint64_t maxSize, std::string& buf
         ::close(fd);
         refuse(name, tooLarge);
     }
-    // Read straight into the buffer, in as few calls as it takes; a file
-    // that turns out longer grows it block by block. One byte more than the
-    // size: the read that finds the end needs room, and a full buffer would
-    // be grown (and copied) only to learn that.
-    if (buffer.size() < static_cast<size_t>(st.st_size) + 1) {
-        buffer.resize(static_cast<size_t>(st.st_size) + 1);
-    }
+    // Read straight into a buffer of the file's size, in as few calls as it
+    // takes; a file that turns out longer grows the buffer block by block.
+    // One byte more than the size: the read that finds the end needs room,
+    // and a full buffer would be grown (and copied) only to learn that.
+    std::string content(static_cast<size_t>(st.st_size) + 1, '\0');
     size_t filled = 0;
     for (;;) {
-        if (filled == buffer.size()) {
-            buffer.resize(buffer.size() + kReadBlockSize);
+        if (filled == content.size()) {
+            content.resize(content.size() + kReadBlockSize);
         }
-        ssize_t n = ::read(fd, &buffer[filled], buffer.size() - filled);
+        ssize_t n = ::read(fd, &content[filled], content.size() - filled);
         if (n < 0 && errno == EINTR) {
             continue;
         }
@@ -109,26 +106,8 @@ size_t readFile(const std::string& name, std::uint64_t maxSize, std::string& buf
         }
     }
     ::close(fd);
-    return filled;
-}
-
-// The thread's buffer for the text of the document being parsed. A model
-// set is read file after file: keeping the buffer spares a fresh
-// allocation, whose pages the system clears, for each of them. Only its
-// size grows, so it is never cleared again either.
-std::string& textBuffer() {
-    static thread_local std::string buffer;
-    return buffer;
-}
-
-// A buffer this large is given back after its document is parsed instead
-// of being held for the next one.
-const size_t kKeptBufferSize = 16 << 20;
-
-void releaseLargeBuffer(std::string& buffer) {
-    if (buffer.size() > kKeptBufferSize) {
-        std::string().swap(buffer);
-    }
+    content.resize(filled);
+    return content;
 }
 
 // Builds the DOM of `text` the way a DOM parser with the white-space filter
@@ -137,14 +116,14 @@ void releaseLargeBuffer(std::string& buffer) {
 // document in this one pass when it is past one limit. `text` is
 // overwritten when the document is refused (see XmlParseStop). With
 // `positions`, the white-space filter also notes where each element begins.
-Poco::AutoPtr<Poco::XML::Document> parseText(const std::string& fileName, char* text, size_t size,
+Poco::AutoPtr<Poco::XML::Document> parseText(const std::string& fileName, std::string& text,
                                              const ZefModelRepositoryService::InputLimits& limits,
                                              ZefModelRepositoryService::ElementPositions* positions) {
     using namespace ZefModelRepositoryService;
     Poco::XML::SAXParser reader;
     reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACES, true);
     reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACE_PREFIXES, true);
-    XmlParseStop stop(text, size);
+    XmlParseStop stop(&text[0], text.size());
     NestingDepthFilter depthFilter(&reader, stop, limits.maxDepth);
     EntityExpansionFilter entityFilter(&depthFilter, stop, limits.maxEntityExpansion);
     NamePoolFilter namePoolFilter(&entityFilter, stop);
@@ -154,7 +133,7 @@ Poco::AutoPtr<Poco::XML::Document> parseText(const std::string& fileName, char* 
     Poco::XML::DOMBuilder builder(*whitespaceFilter);
     Poco::AutoPtr<Poco::XML::Document> document;
     try {
-        document = builder.parseMemoryNP(text, size);
+        document = builder.parseMemoryNP(text.data(), text.size());
     } catch (const Poco::Exception& e) {
         // The reader's own error, unless a filter stopped it.
         if (!stop.stopped()) {
@@ -171,34 +150,28 @@ Poco::AutoPtr<Poco::XML::Document> parseText(const std::string& fileName, char* 
 
 void ZefConfiguration::load(const std::string& fileName) {
     const ZefModelRepositoryService::InputLimits limits = ZefModelRepositoryService::InputLimits::fromEnvironment();
-    std::string& text = textBuffer();
-    size_t size = 0;
+    std::string text;
     switch (classify(fileName)) {
     case PathKind::Other:
         throw ZefException(fileName + " is not a file");
     case PathKind::Unreadable:
         throw ZefException(fileName + " is not readable");
     case PathKind::RegularFile:
-        size = readFile(fileName, limits.maxFileSize, text);
+        text = readFile(fileName, limits.maxFileSize);
         break;
     case PathKind::Missing:
-        if (text.size() < fileName.size()) {
-            text.resize(fileName.size());
-        }
-        size = fileName.copy(&text[0], fileName.size());
+        text = fileName;
         break;
     }
     // The old document goes first: two large documents are never held at once.
     _document = nullptr;
     _positions.clear();
     try {
-        _document = parseText(fileName, &text[0], size, limits, _notePositions ? &_positions : nullptr);
+        _document = parseText(fileName, text, limits, _notePositions ? &_positions : nullptr);
     } catch (...) {
         _positions.clear();
-        releaseLargeBuffer(text);
         throw;
     }
-    releaseLargeBuffer(text);
     if (_notePositions) {
         _positions.assignTo(_document.get());
     }
