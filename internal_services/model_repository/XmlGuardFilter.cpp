@@ -1,161 +1,266 @@
 #include "XmlGuardFilter.h"
 
+#include <Poco/SAX/Attributes.h>
+#include <Poco/SAX/Locator.h>
 #include <Poco/SAX/XMLReader.h>
+
+#include "ElementPositions.h"
+#include "InputLimits.h"
 
 namespace ZefModelRepositoryService {
 
+using Poco::XML::WhitespaceFilter;
 using Poco::XML::XMLChar;
 using Poco::XML::XMLReader;
 using Poco::XML::XMLString;
 
-XmlGuardFilter::XmlGuardFilter(XMLReader* parent, XmlParseStop& stop)
-    : Poco::XML::XMLFilterImpl(parent), _stop(stop) {}
+namespace {
+
+std::uint64_t saturatingSum(std::uint64_t a, std::uint64_t b) { return a > UINT64_MAX - b ? UINT64_MAX : a + b; }
+
+std::uint64_t lengthOf(int length) { return length > 0 ? static_cast<std::uint64_t>(length) : 0; }
+
+// The part of a qualified name after its prefix, without a copy.
+std::string_view localPart(const XMLString& qname) {
+    const std::string::size_type colon = qname.find(':');
+    return colon == std::string::npos ? std::string_view(qname) : std::string_view(qname).substr(colon + 1);
+}
+
+} // namespace
+
+XmlGuardFilter::XmlGuardFilter(XMLReader* parent, XmlParseStop& stop, const InputLimits& limits,
+                               ElementPositions* positions)
+    : WhitespaceFilter(parent),
+      _stop(stop),
+      _positions(positions),
+      _maxDepth(limits.maxDepth),
+      _expansionLimit(limits.maxEntityExpansion),
+      _outputLimit(saturatingSum(3 * static_cast<std::uint64_t>(stop.size()), limits.maxEntityExpansion)),
+      _entities(limits.maxEntityExpansion) {}
 
 void XmlGuardFilter::setupParse() {
-    XMLFilterImpl::setupParse();
-    parent()->setProperty(XMLReader::PROPERTY_LEXICAL_HANDLER, static_cast<Poco::XML::LexicalHandler*>(this));
+    WhitespaceFilter::setupParse();
     parent()->setProperty(XMLReader::PROPERTY_DECLARATION_HANDLER, static_cast<Poco::XML::DeclHandler*>(this));
 }
 
 void XmlGuardFilter::setProperty(const XMLString& propertyId, const XMLString& value) {
-    XMLFilterImpl::setProperty(propertyId, value);
+    WhitespaceFilter::setProperty(propertyId, value);
 }
 
 void XmlGuardFilter::setProperty(const XMLString& propertyId, void* value) {
-    if (propertyId == XMLReader::PROPERTY_LEXICAL_HANDLER) {
-        _lexicalHandler = static_cast<Poco::XML::LexicalHandler*>(value);
-    } else if (propertyId == XMLReader::PROPERTY_DECLARATION_HANDLER) {
+    if (propertyId == XMLReader::PROPERTY_DECLARATION_HANDLER) {
         _declHandler = static_cast<Poco::XML::DeclHandler*>(value);
     } else {
-        XMLFilterImpl::setProperty(propertyId, value);
+        WhitespaceFilter::setProperty(propertyId, value);
     }
 }
 
 void* XmlGuardFilter::getProperty(const XMLString& propertyId) const {
-    if (propertyId == XMLReader::PROPERTY_LEXICAL_HANDLER) {
-        return _lexicalHandler;
-    }
     if (propertyId == XMLReader::PROPERTY_DECLARATION_HANDLER) {
         return _declHandler;
     }
-    return XMLFilterImpl::getProperty(propertyId);
+    return WhitespaceFilter::getProperty(propertyId);
 }
 
-// ---- content ----------------------------------------------------------------------
+// ---- the limits ------------------------------------------------------------------
 
-void XmlGuardFilter::startElement(const XMLString& uri, const XMLString& localName, const XMLString& qname,
+std::string XmlGuardFilter::expansionReason(const std::string& what) const {
+    return what + " " + std::to_string(_expansionLimit) + " bytes (ZEF_VALIDATOR_MAX_ENTITY_EXPANSION)";
+}
+
+bool XmlGuardFilter::produce(std::uint64_t bytes) {
+    _produced = saturatingSum(_produced, bytes);
+    if (_produced > _outputLimit) {
+        refuse(expansionReason("entity references expand to more than"));
+        return false;
+    }
+    return true;
+}
+
+bool XmlGuardFilter::useName(const XMLString& qname, const XMLString& uri, std::string_view localName) {
+    if (!_names.use(qname, uri, localName)) {
+        refuse(NamePoolGuard::reason());
+        return false;
+    }
+    return true;
+}
+
+bool XmlGuardFilter::admitElement(const XMLString& uri, const XMLString& localName, const XMLString& qname,
                                   const Poco::XML::Attributes& attributes) {
-    if (!stopped()) {
-        XMLFilterImpl::startElement(uri, localName, qname, attributes);
+    if (++_depth > _maxDepth) {
+        refuse("elements nested deeper than " + std::to_string(_maxDepth) + " levels (ZEF_VALIDATOR_MAX_DEPTH)");
+        return false;
+    }
+    const int count = attributes.getLength();
+    for (int i = 0; i < count; ++i) {
+        if (!produce(attributes.getValue(i).size())) {
+            return false;
+        }
+    }
+    // The DOM names an element by its qualified name and the local part of
+    // that; an attribute by the names the reader reports for it.
+    const XMLString& elementName = qname.empty() ? localName : qname;
+    if (!useName(elementName, uri, localPart(elementName))) {
+        return false;
+    }
+    for (int i = 0; i < count; ++i) {
+        if (!useName(attributes.getQName(i), attributes.getURI(i), attributes.getLocalName(i))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void XmlGuardFilter::notePosition() {
+    if (_locator != nullptr) {
+        // The reader counts lines from 1 but columns from 0; a report counts
+        // both from 1, as editors do.
+        _positions->noteStartTag(static_cast<uint32_t>(_locator->getLineNumber()),
+                                 static_cast<uint32_t>(_locator->getColumnNumber()) + 1);
+    } else {
+        _positions->noteStartTag(0, 0);
     }
 }
 
-void XmlGuardFilter::endElement(const XMLString& uri, const XMLString& localName, const XMLString& qname) {
-    if (!stopped()) {
-        XMLFilterImpl::endElement(uri, localName, qname);
-    }
+// ---- content ---------------------------------------------------------------------
+
+void XmlGuardFilter::setDocumentLocator(const Poco::XML::Locator* locator) {
+    _locator = locator;
+    WhitespaceFilter::setDocumentLocator(locator);
 }
 
-void XmlGuardFilter::characters(const XMLChar ch[], int start, int length) {
+void XmlGuardFilter::startDocument() {
     if (!stopped()) {
-        XMLFilterImpl::characters(ch, start, length);
-    }
-}
-
-void XmlGuardFilter::ignorableWhitespace(const XMLChar ch[], int start, int length) {
-    if (!stopped()) {
-        XMLFilterImpl::ignorableWhitespace(ch, start, length);
-    }
-}
-
-void XmlGuardFilter::processingInstruction(const XMLString& target, const XMLString& data) {
-    if (!stopped()) {
-        XMLFilterImpl::processingInstruction(target, data);
-    }
-}
-
-void XmlGuardFilter::startPrefixMapping(const XMLString& prefix, const XMLString& uri) {
-    if (!stopped()) {
-        XMLFilterImpl::startPrefixMapping(prefix, uri);
-    }
-}
-
-void XmlGuardFilter::endPrefixMapping(const XMLString& prefix) {
-    if (!stopped()) {
-        XMLFilterImpl::endPrefixMapping(prefix);
-    }
-}
-
-void XmlGuardFilter::skippedEntity(const XMLString& name) {
-    if (!stopped()) {
-        XMLFilterImpl::skippedEntity(name);
+        WhitespaceFilter::startDocument();
     }
 }
 
 void XmlGuardFilter::endDocument() {
     if (!stopped()) {
-        XMLFilterImpl::endDocument();
+        WhitespaceFilter::endDocument();
+    }
+}
+
+void XmlGuardFilter::startElement(const XMLString& uri, const XMLString& localName, const XMLString& qname,
+                                  const Poco::XML::Attributes& attributes) {
+    if (stopped() || !admitElement(uri, localName, qname, attributes)) {
+        return;
+    }
+    if (_positions != nullptr) {
+        notePosition();
+    }
+    WhitespaceFilter::startElement(uri, localName, qname, attributes);
+}
+
+void XmlGuardFilter::endElement(const XMLString& uri, const XMLString& localName, const XMLString& qname) {
+    --_depth;
+    if (!stopped()) {
+        WhitespaceFilter::endElement(uri, localName, qname);
+    }
+}
+
+void XmlGuardFilter::characters(const XMLChar ch[], int start, int length) {
+    if (!stopped() && produce(lengthOf(length))) {
+        WhitespaceFilter::characters(ch, start, length);
+    }
+}
+
+void XmlGuardFilter::ignorableWhitespace(const XMLChar ch[], int start, int length) {
+    if (!stopped() && produce(lengthOf(length))) {
+        WhitespaceFilter::ignorableWhitespace(ch, start, length);
+    }
+}
+
+void XmlGuardFilter::processingInstruction(const XMLString& target, const XMLString& data) {
+    if (!stopped()) {
+        WhitespaceFilter::processingInstruction(target, data);
+    }
+}
+
+void XmlGuardFilter::startPrefixMapping(const XMLString& prefix, const XMLString& uri) {
+    if (!stopped()) {
+        WhitespaceFilter::startPrefixMapping(prefix, uri);
+    }
+}
+
+void XmlGuardFilter::endPrefixMapping(const XMLString& prefix) {
+    if (!stopped()) {
+        WhitespaceFilter::endPrefixMapping(prefix);
+    }
+}
+
+void XmlGuardFilter::skippedEntity(const XMLString& name) {
+    if (!stopped()) {
+        WhitespaceFilter::skippedEntity(name);
     }
 }
 
 void XmlGuardFilter::notationDecl(const XMLString& name, const XMLString* publicId, const XMLString* systemId) {
     if (!stopped()) {
-        XMLFilterImpl::notationDecl(name, publicId, systemId);
+        WhitespaceFilter::notationDecl(name, publicId, systemId);
     }
 }
 
 void XmlGuardFilter::unparsedEntityDecl(const XMLString& name, const XMLString* publicId, const XMLString& systemId,
                                         const XMLString& notationName) {
     if (!stopped()) {
-        XMLFilterImpl::unparsedEntityDecl(name, publicId, systemId, notationName);
+        WhitespaceFilter::unparsedEntityDecl(name, publicId, systemId, notationName);
     }
 }
 
-// ---- lexical events ---------------------------------------------------------------
+// ---- lexical events ----------------------------------------------------------------
 
 void XmlGuardFilter::startDTD(const XMLString& name, const XMLString& publicId, const XMLString& systemId) {
-    if (!stopped() && _lexicalHandler != nullptr) {
-        _lexicalHandler->startDTD(name, publicId, systemId);
+    if (!stopped()) {
+        WhitespaceFilter::startDTD(name, publicId, systemId);
     }
 }
 
 void XmlGuardFilter::endDTD() {
-    if (!stopped() && _lexicalHandler != nullptr) {
-        _lexicalHandler->endDTD();
+    // Every declaration is known now and no element has been read yet: the
+    // last moment at which no reference has been expanded.
+    if (!stopped() && !_entities.empty()) {
+        const std::string reason = _entities.check(_stop.document(), _stop.size());
+        if (!reason.empty()) {
+            refuse(reason + " (ZEF_VALIDATOR_MAX_ENTITY_EXPANSION)");
+        }
+    }
+    if (!stopped()) {
+        WhitespaceFilter::endDTD();
     }
 }
 
 void XmlGuardFilter::startEntity(const XMLString& name) {
-    if (!stopped() && _lexicalHandler != nullptr) {
-        _lexicalHandler->startEntity(name);
+    if (!stopped()) {
+        WhitespaceFilter::startEntity(name);
     }
 }
 
 void XmlGuardFilter::endEntity(const XMLString& name) {
-    if (!stopped() && _lexicalHandler != nullptr) {
-        _lexicalHandler->endEntity(name);
+    if (!stopped()) {
+        WhitespaceFilter::endEntity(name);
     }
 }
 
 void XmlGuardFilter::startCDATA() {
-    if (!stopped() && _lexicalHandler != nullptr) {
-        _lexicalHandler->startCDATA();
+    if (!stopped()) {
+        WhitespaceFilter::startCDATA();
     }
 }
 
 void XmlGuardFilter::endCDATA() {
-    if (!stopped() && _lexicalHandler != nullptr) {
-        _lexicalHandler->endCDATA();
+    if (!stopped()) {
+        WhitespaceFilter::endCDATA();
     }
 }
 
 void XmlGuardFilter::comment(const XMLChar ch[], int start, int length) {
-    if (!stopped() && _lexicalHandler != nullptr) {
-        _lexicalHandler->comment(ch, start, length);
+    if (!stopped()) {
+        WhitespaceFilter::comment(ch, start, length);
     }
 }
 
-// ---- declarations -----------------------------------------------------------------
+// ---- declarations ----------------------------------------------------------------
 
 void XmlGuardFilter::attributeDecl(const XMLString& eName, const XMLString& aName, const XMLString* valueDefault,
                                    const XMLString* value) {
@@ -177,6 +282,7 @@ void XmlGuardFilter::externalEntityDecl(const XMLString& name, const XMLString* 
 }
 
 void XmlGuardFilter::internalEntityDecl(const XMLString& name, const XMLString& value) {
+    _entities.declare(name, value);
     if (!stopped() && _declHandler != nullptr) {
         _declHandler->internalEntityDecl(name, value);
     }

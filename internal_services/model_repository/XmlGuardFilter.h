@@ -1,41 +1,76 @@
 #ifndef ZEF_XML_GUARD_FILTER_H
 #define ZEF_XML_GUARD_FILTER_H
 
-#include <Poco/SAX/DeclHandler.h>
-#include <Poco/SAX/LexicalHandler.h>
-#include <Poco/SAX/XMLFilterImpl.h>
+#include <cstdint>
+#include <string>
 
+#include <Poco/SAX/DeclHandler.h>
+#include <Poco/SAX/WhitespaceFilter.h>
+
+#include "EntityExpansion.h"
+#include "NamePoolGuard.h"
 #include "XmlParseStop.h"
+
+namespace Poco {
+namespace XML {
+class Locator;
+}
+} // namespace Poco
 
 namespace ZefModelRepositoryService {
 
-/// Base of the filters that guard the reading of a model document: each
-/// sits in the SAX chain between the XML reader and the DOM builder, looks
-/// at the events it needs, and refuses the document through the shared
-/// XmlParseStop when a limit is passed.
-///
-/// This base passes every event on unchanged while the document is not
-/// refused, and none after, so the DOM never grows past a limit whichever
-/// filter refused. Besides the content events it carries the lexical events
-/// (comments, CDATA, the document type) and the declaration events, which
-/// a plain filter leaves to the reader and the handler behind it. A derived
-/// filter overrides the events it inspects and calls this base to pass them
-/// on.
-class XmlGuardFilter : public Poco::XML::XMLFilterImpl,
-                       public Poco::XML::LexicalHandler,
-                       public Poco::XML::DeclHandler {
-public:
-    /// `parent`: the reader or filter before this one; `stop`: the refusal
-    /// shared by the chain.
-    XmlGuardFilter(Poco::XML::XMLReader* parent, XmlParseStop& stop);
+class ElementPositions;
+struct InputLimits;
 
-    // XMLReader: the lexical and declaration handlers of the next filter are
-    // taken by this one, which passes their events on.
+/// The one filter between the XML reader and the DOM builder of a model
+/// document. It drops white-space-only text between elements, as the
+/// white-space filter it extends; it notes where each start tag begins when
+/// given positions to fill; and it refuses the document, through the shared
+/// XmlParseStop, in the same pass that builds the DOM, when:
+/// - elements nest deeper than the depth limit (the DOM code recurses over
+///   the tree, releasing it, searching it by tag, so a tree a few hundred
+///   thousand levels deep would overflow the stack long after it was read);
+/// - entities would expand beyond the expansion limit: once the document
+///   type declaration ends (before any reference in the elements is
+///   expanded), when a declared entity or the references of the document
+///   add more than the limit (see EntityExpansion); and while the elements
+///   are read, when they produce more text (character data and attribute
+///   values) than the document could hold without entities, three bytes per
+///   input byte (the most any encoding grows to in UTF-8), plus the limit,
+///   which also catches an attribute default that copies an entity into
+///   every element;
+/// - the document uses more distinct names than its name pool holds (see
+///   NamePoolGuard).
+///
+/// The checks share one filter so that the events of a large document pass
+/// one layer, as they do in a plain DOM parser. Every event is passed on
+/// unchanged while the document is not refused, and none after, so the DOM
+/// never grows past a limit. Besides the content events the filter carries
+/// the lexical events (comments, CDATA, the document type) and the
+/// declaration events.
+class XmlGuardFilter : public Poco::XML::WhitespaceFilter, public Poco::XML::DeclHandler {
+public:
+    /// `parent`: the XML reader; `stop`: the refusal of the document it
+    /// reads; `limits`: the nesting depth and entity expansion limits;
+    /// `positions`, when not null, receives the position of every start tag
+    /// in the order the builder creates the elements, and must outlive the
+    /// parse.
+    XmlGuardFilter(Poco::XML::XMLReader* parent, XmlParseStop& stop, const InputLimits& limits,
+                   ElementPositions* positions = nullptr);
+
+    /// The number of distinct names met so far.
+    std::size_t namesUsed() const { return _names.size(); }
+
+    // XMLReader: the declaration handler of the builder is taken by this
+    // filter, which passes its events on.
     void setProperty(const Poco::XML::XMLString& propertyId, const Poco::XML::XMLString& value) override;
     void setProperty(const Poco::XML::XMLString& propertyId, void* value) override;
     void* getProperty(const Poco::XML::XMLString& propertyId) const override;
 
     // ContentHandler
+    void setDocumentLocator(const Poco::XML::Locator* locator) override;
+    void startDocument() override;
+    void endDocument() override;
     void startElement(const Poco::XML::XMLString& uri, const Poco::XML::XMLString& localName,
                       const Poco::XML::XMLString& qname, const Poco::XML::Attributes& attributes) override;
     void endElement(const Poco::XML::XMLString& uri, const Poco::XML::XMLString& localName,
@@ -46,7 +81,6 @@ public:
     void startPrefixMapping(const Poco::XML::XMLString& prefix, const Poco::XML::XMLString& uri) override;
     void endPrefixMapping(const Poco::XML::XMLString& prefix) override;
     void skippedEntity(const Poco::XML::XMLString& name) override;
-    void endDocument() override;
 
     // DTDHandler
     void notationDecl(const Poco::XML::XMLString& name, const Poco::XML::XMLString* publicId,
@@ -79,13 +113,36 @@ protected:
     bool stopped() const { return _stop.stopped(); }
     /// Refuses the document for `reason` (see XmlParseStop).
     void refuse(const std::string& reason) { _stop.stop(reason); }
-    /// The shared refusal, for the document text it holds.
-    const XmlParseStop& parseStop() const { return _stop; }
 
 private:
+    /// Whether the element about to start, with these attributes, stays
+    /// within every limit; refuses the document when not.
+    bool admitElement(const Poco::XML::XMLString& uri, const Poco::XML::XMLString& localName,
+                      const Poco::XML::XMLString& qname, const Poco::XML::Attributes& attributes);
+    /// Counts text the document produces; false, and the document refused,
+    /// past the output limit.
+    bool produce(std::uint64_t bytes);
+    /// Counts one name; false, and the document refused, past the pool.
+    bool useName(const Poco::XML::XMLString& qname, const Poco::XML::XMLString& uri, std::string_view localName);
+    /// The refusal text of an entity check, with the limit and its variable.
+    std::string expansionReason(const std::string& what) const;
+    /// Notes where the start tag being reported begins.
+    void notePosition();
+
     XmlParseStop& _stop;
-    Poco::XML::LexicalHandler* _lexicalHandler = nullptr;
     Poco::XML::DeclHandler* _declHandler = nullptr;
+    const Poco::XML::Locator* _locator = nullptr;
+    ElementPositions* _positions;
+
+    std::uint64_t _maxDepth;
+    std::uint64_t _depth = 0;
+
+    std::uint64_t _expansionLimit;
+    std::uint64_t _outputLimit;
+    std::uint64_t _produced = 0;
+    EntityExpansion _entities;
+
+    NamePoolGuard _names;
 };
 
 } // namespace ZefModelRepositoryService

@@ -11,13 +11,9 @@
 #include <Poco/DOM/DOMBuilder.h>
 #include <Poco/Exception.h>
 #include <Poco/SAX/SAXParser.h>
-#include <Poco/SAX/WhitespaceFilter.h>
 
-#include "EntityExpansionFilter.h"
 #include "InputLimits.h"
-#include "NamePoolFilter.h"
-#include "NestingDepthFilter.h"
-#include "PositionFilter.h"
+#include "XmlGuardFilter.h"
 #include "XmlParseStop.h"
 #include "ZefException.h"
 #include "ZefLog.h"
@@ -112,10 +108,10 @@ std::string readFile(const std::string& name, std::uint64_t maxSize) {
 
 // Builds the DOM of `text` the way a DOM parser with the white-space filter
 // does (namespaces and their prefixes reported, no name pool given), with
-// the guard filters between the reader and the builder, each refusing the
-// document in this one pass when it is past one limit. `text` is
-// overwritten when the document is refused (see XmlParseStop). With
-// `positions`, the white-space filter also notes where each element begins.
+// the guard filter between the reader and the builder, which refuses the
+// document in this one pass when it is past a limit. `text` is overwritten
+// when the document is refused (see XmlParseStop). With `positions`, the
+// filter also notes where each element begins.
 Poco::AutoPtr<Poco::XML::Document> parseText(const std::string& fileName, std::string& text,
                                              const ZefModelRepositoryService::InputLimits& limits,
                                              ZefModelRepositoryService::ElementPositions* positions) {
@@ -124,13 +120,8 @@ Poco::AutoPtr<Poco::XML::Document> parseText(const std::string& fileName, std::s
     reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACES, true);
     reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACE_PREFIXES, true);
     XmlParseStop stop(&text[0], text.size());
-    NestingDepthFilter depthFilter(&reader, stop, limits.maxDepth);
-    EntityExpansionFilter entityFilter(&depthFilter, stop, limits.maxEntityExpansion);
-    NamePoolFilter namePoolFilter(&entityFilter, stop);
-    const std::unique_ptr<Poco::XML::WhitespaceFilter> whitespaceFilter(
-        positions != nullptr ? new PositionFilter(&namePoolFilter, *positions)
-                             : new Poco::XML::WhitespaceFilter(&namePoolFilter));
-    Poco::XML::DOMBuilder builder(*whitespaceFilter);
+    XmlGuardFilter guardFilter(&reader, stop, limits, positions);
+    Poco::XML::DOMBuilder builder(guardFilter);
     Poco::AutoPtr<Poco::XML::Document> document;
     try {
         document = builder.parseMemoryNP(text.data(), text.size());

@@ -1,5 +1,6 @@
-// The base of the guard filters: everything passes while the document is
-// not refused, nothing after.
+// The guard filter of the reading chain: everything passes while the
+// document is not refused, nothing after; white-space-only text between
+// elements is dropped.
 
 #include <gtest/gtest.h>
 
@@ -13,6 +14,7 @@
 #include <Poco/DOM/ProcessingInstruction.h>
 
 #include "GuardChainTestSupport.h"
+#include "InputLimits.h"
 #include "XmlGuardFilter.h"
 
 using ZefModelRepositoryService::XmlGuardFilter;
@@ -24,7 +26,7 @@ namespace {
 class StopAtFilter : public XmlGuardFilter {
 public:
     StopAtFilter(Poco::XML::XMLReader* parent, XmlParseStop& stop, const std::string& stopAt)
-        : XmlGuardFilter(parent, stop), _stopAt(stopAt) {}
+        : XmlGuardFilter(parent, stop, ZefModelRepositoryService::InputLimits()), _stopAt(stopAt) {}
 
     void startElement(const Poco::XML::XMLString& uri, const Poco::XML::XMLString& localName,
                       const Poco::XML::XMLString& qname, const Poco::XML::Attributes& attributes) override {
@@ -89,4 +91,42 @@ TEST(XmlGuardFilterTest, RefusalInTheLastChunkLeavesADocumentTheCallerMustDrop) 
     Poco::AutoPtr<Poco::XML::NodeList> after = read.document->getElementsByTagName("b");
     EXPECT_EQ(0u, stops->length());
     EXPECT_EQ(0u, after->length());
+}
+
+TEST(XmlGuardFilterTest, WhiteSpaceOnlyTextBetweenElementsIsDropped) {
+    const ZefTest::GuardedRead read =
+        ZefTest::readGuarded("<models>\n  <a> x </a>\n\t<b/>\r\n</models>", stopAt("none"));
+    ASSERT_FALSE(read.document.isNull()) << read.readerError;
+    Poco::XML::Element* models = read.document->documentElement();
+    ASSERT_NE(nullptr, models->firstChild());
+    EXPECT_EQ("a", models->firstChild()->nodeName());
+    EXPECT_EQ(" x ", models->firstChild()->innerText());
+    EXPECT_EQ("b", models->lastChild()->nodeName());
+    EXPECT_EQ(models->firstChild()->nextSibling(), models->lastChild());
+}
+
+TEST(XmlGuardFilterTest, TheFirstLimitPassedInOneStartTagIsTheReason) {
+    // The pool is full (509 names), then one element is both a level too
+    // deep and a name too many: the depth is checked first.
+    ZefModelRepositoryService::InputLimits limits;
+    limits.maxDepth = 2;
+    std::string text = "<r>";
+    for (int i = 1; i < 509; ++i) {
+        text += "<n" + std::to_string(i) + "/>";
+    }
+    text += "<n1><x/></n1></r>";
+    const ZefTest::GuardedRead read = ZefTest::readGuarded(text, ZefTest::guardWith(limits));
+    EXPECT_EQ("elements nested deeper than 2 levels (ZEF_VALIDATOR_MAX_DEPTH)", read.refusal);
+}
+
+TEST(XmlGuardFilterTest, ANameTooManyWithinTheDepthIsRefusedForTheNames) {
+    ZefModelRepositoryService::InputLimits limits;
+    limits.maxDepth = 3;
+    std::string text = "<r>";
+    for (int i = 1; i < 509; ++i) {
+        text += "<n" + std::to_string(i) + "/>";
+    }
+    text += "<n1><x/></n1></r>";
+    const ZefTest::GuardedRead read = ZefTest::readGuarded(text, ZefTest::guardWith(limits));
+    EXPECT_EQ("more than 509 distinct element and attribute names, more than a DOM document holds", read.refusal);
 }

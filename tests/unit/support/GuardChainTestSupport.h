@@ -1,7 +1,7 @@
 #ifndef ZEF_TEST_GUARD_CHAIN_TEST_SUPPORT_H
 #define ZEF_TEST_GUARD_CHAIN_TEST_SUPPORT_H
 
-// Reads a document through the real XML reader, one guard filter of the
+// Reads a document through the real XML reader, the guard filter of the
 // reading chain and the real DOM builder, the way the model document holder
 // chains them, so that a filter's test sees what the builder gets.
 
@@ -15,6 +15,7 @@
 #include <Poco/Exception.h>
 #include <Poco/SAX/SAXParser.h>
 
+#include "InputLimits.h"
 #include "XmlGuardFilter.h"
 #include "XmlParseStop.h"
 
@@ -55,6 +56,14 @@ inline GuardedRead readGuarded(std::string text, const GuardFactory& makeFilter,
         afterRead(*filter);
     }
     return result;
+}
+
+/// A guard filter with `limits` (and the default limits for the rest).
+inline GuardFactory guardWith(ZefModelRepositoryService::InputLimits limits) {
+    return [limits](Poco::XML::XMLReader* parent, ZefModelRepositoryService::XmlParseStop& stop) {
+        return std::unique_ptr<ZefModelRepositoryService::XmlGuardFilter>(
+            new ZefModelRepositoryService::XmlGuardFilter(parent, stop, limits));
+    };
 }
 
 /// `count` elements named `name` nested in one another.

@@ -1,5 +1,5 @@
-#ifndef ZEF_NAME_POOL_FILTER_H
-#define ZEF_NAME_POOL_FILTER_H
+#ifndef ZEF_NAME_POOL_GUARD_H
+#define ZEF_NAME_POOL_GUARD_H
 
 #include <cstddef>
 #include <cstdint>
@@ -7,31 +7,33 @@
 #include <string_view>
 #include <vector>
 
-#include "XmlGuardFilter.h"
-
 namespace ZefModelRepositoryService {
 
-/// Refuses a document that uses more distinct element and attribute names
-/// than the name pool of a DOM document made without one can hold. Past
-/// that, the DOM builder would throw from inside the XML reader, which
-/// leaves the reader's parser unfreed (see XmlParseStop); refused here the
-/// document fails like any malformed one.
+/// Counts the distinct element and attribute names of a document the way
+/// the name pool of a DOM document made without one does, so that the
+/// reading chain can refuse a document with more names than that pool
+/// holds. Past that, the DOM builder would throw from inside the XML
+/// reader, which leaves the reader's parser unfreed (see XmlParseStop);
+/// refused by the chain, the document fails like any malformed one.
 ///
 /// A name is what the pool keys it by: qualified name, namespace URI and
 /// local name. Each name is hashed where it is met and compared in place, so
 /// that counting costs no allocation once a name is known.
-class NamePoolFilter : public XmlGuardFilter {
+class NamePoolGuard {
 public:
     /// The capacity of the name pool of a DOM document made without one.
     static const std::size_t kCapacity = 509;
 
-    NamePoolFilter(Poco::XML::XMLReader* parent, XmlParseStop& stop);
+    NamePoolGuard();
 
-    void startElement(const Poco::XML::XMLString& uri, const Poco::XML::XMLString& localName,
-                      const Poco::XML::XMLString& qname, const Poco::XML::Attributes& attributes) override;
+    /// Counts one name; false when it is a new name and the pool is full.
+    bool use(const std::string& qname, const std::string& uri, std::string_view localName);
 
     /// The number of distinct names met so far.
     std::size_t size() const { return _names.size(); }
+
+    /// Why a document is refused once use() returned false.
+    static std::string reason();
 
 private:
     struct Name {
@@ -40,12 +42,9 @@ private:
         std::string localName;
     };
     struct Slot {
-        std::size_t hash;
+        std::uint64_t hash;
         std::uint32_t name;  // 1 + the index of the name in _names; 0 while free
     };
-
-    /// Counts one name; refuses the document when it is one too many.
-    void use(const Poco::XML::XMLString& qname, const Poco::XML::XMLString& uri, std::string_view localName);
 
     // Open addressing over twice the capacity: never more than half full.
     // The slots are plain values, so that a document with a dozen names
@@ -56,4 +55,4 @@ private:
 
 } // namespace ZefModelRepositoryService
 
-#endif // ZEF_NAME_POOL_FILTER_H
+#endif // ZEF_NAME_POOL_GUARD_H

@@ -1,4 +1,4 @@
-// The entity guard of the reading chain.
+// The entity expansion limits of the reading chain's guard filter.
 
 #include <gtest/gtest.h>
 
@@ -7,19 +7,17 @@
 
 #include <Poco/DOM/Element.h>
 
-#include "EntityExpansionFilter.h"
 #include "GuardChainTestSupport.h"
+#include "InputLimits.h"
 
-using ZefModelRepositoryService::EntityExpansionFilter;
-using ZefModelRepositoryService::XmlGuardFilter;
-using ZefModelRepositoryService::XmlParseStop;
+using ZefModelRepositoryService::InputLimits;
 
 namespace {
 
 ZefTest::GuardFactory expansionLimit(std::uint64_t limit) {
-    return [limit](Poco::XML::XMLReader* parent, XmlParseStop& stop) {
-        return std::unique_ptr<XmlGuardFilter>(new EntityExpansionFilter(parent, stop, limit));
-    };
+    InputLimits limits;
+    limits.maxEntityExpansion = limit;
+    return ZefTest::guardWith(limits);
 }
 
 std::string repeated(const std::string& text, int count) {
@@ -32,7 +30,7 @@ std::string repeated(const std::string& text, int count) {
 
 } // namespace
 
-TEST(EntityExpansionFilterTest, EntitiesWithinTheLimitAreExpanded) {
+TEST(XmlGuardFilterExpansionTest, EntitiesWithinTheLimitAreExpanded) {
     const ZefTest::GuardedRead read = ZefTest::readGuarded(
         "<!DOCTYPE r [<!ENTITY w \"0123456789\">]><r a=\"&w;\">&w;&w;</r>", expansionLimit(30));
     EXPECT_EQ("", read.refusal);
@@ -41,7 +39,7 @@ TEST(EntityExpansionFilterTest, EntitiesWithinTheLimitAreExpanded) {
     EXPECT_EQ("01234567890123456789", read.document->documentElement()->innerText());
 }
 
-TEST(EntityExpansionFilterTest, ReferencesPastTheLimitAreRefusedBeforeTheElements) {
+TEST(XmlGuardFilterExpansionTest, ReferencesPastTheLimitAreRefusedBeforeTheElements) {
     const ZefTest::GuardedRead read = ZefTest::readGuarded(
         "<!DOCTYPE r [<!ENTITY w \"0123456789\">]><r a=\"&w;\">&w;&w;&w;</r>", expansionLimit(30));
     EXPECT_EQ("entity references expand to more than 30 bytes (ZEF_VALIDATOR_MAX_ENTITY_EXPANSION)", read.refusal);
@@ -49,13 +47,13 @@ TEST(EntityExpansionFilterTest, ReferencesPastTheLimitAreRefusedBeforeTheElement
     EXPECT_TRUE(read.document.isNull() || read.document->documentElement() == nullptr);
 }
 
-TEST(EntityExpansionFilterTest, EntityThatExpandsPastTheLimitIsNamed) {
+TEST(XmlGuardFilterExpansionTest, EntityThatExpandsPastTheLimitIsNamed) {
     const ZefTest::GuardedRead read = ZefTest::readGuarded(
         "<!DOCTYPE r [<!ENTITY a \"0123456789\"><!ENTITY b \"&a;&a;&a;&a;\">]><r/>", expansionLimit(30));
     EXPECT_EQ("entity 'b' expands to more than 30 bytes (ZEF_VALIDATOR_MAX_ENTITY_EXPANSION)", read.refusal);
 }
 
-TEST(EntityExpansionFilterTest, AttributeDefaultCopiedIntoEveryElementIsRefusedWhileReading) {
+TEST(XmlGuardFilterExpansionTest, AttributeDefaultCopiedIntoEveryElementIsRefusedWhileReading) {
     const std::string text = "<!DOCTYPE r [<!ENTITY x \"" + std::string(1000, 'A') +
                              "\"><!ATTLIST e v CDATA \"&x;\">]><r>" + repeated("<e/>", 3000) + "</r>";
     const ZefTest::GuardedRead read = ZefTest::readGuarded(text, expansionLimit(100000));
@@ -64,7 +62,7 @@ TEST(EntityExpansionFilterTest, AttributeDefaultCopiedIntoEveryElementIsRefusedW
     EXPECT_TRUE(read.document.isNull());
 }
 
-TEST(EntityExpansionFilterTest, LargeDocumentWithoutEntitiesIsNeverRefused) {
+TEST(XmlGuardFilterExpansionTest, LargeDocumentWithoutEntitiesIsNeverRefused) {
     // Text as large as the document itself, and a limit of one byte.
     const std::string text = "<r a=\"" + std::string(100000, 'v') + "\">" + std::string(100000, 't') + "</r>";
     const ZefTest::GuardedRead read = ZefTest::readGuarded(text, expansionLimit(1));

@@ -1,4 +1,4 @@
-// The depth guard of the reading chain.
+// The depth limit of the reading chain's guard filter.
 
 #include <gtest/gtest.h>
 
@@ -8,23 +8,21 @@
 #include <Poco/DOM/NodeList.h>
 
 #include "GuardChainTestSupport.h"
-#include "NestingDepthFilter.h"
+#include "InputLimits.h"
 
-using ZefModelRepositoryService::NestingDepthFilter;
-using ZefModelRepositoryService::XmlGuardFilter;
-using ZefModelRepositoryService::XmlParseStop;
+using ZefModelRepositoryService::InputLimits;
 
 namespace {
 
 ZefTest::GuardFactory depthLimit(std::uint64_t limit) {
-    return [limit](Poco::XML::XMLReader* parent, XmlParseStop& stop) {
-        return std::unique_ptr<XmlGuardFilter>(new NestingDepthFilter(parent, stop, limit));
-    };
+    InputLimits limits;
+    limits.maxDepth = limit;
+    return ZefTest::guardWith(limits);
 }
 
 } // namespace
 
-TEST(NestingDepthFilterTest, NestingUpToTheLimitPasses) {
+TEST(XmlGuardFilterDepthTest, NestingUpToTheLimitPasses) {
     const ZefTest::GuardedRead read = ZefTest::readGuarded(ZefTest::nestedElements(4), depthLimit(4));
     EXPECT_EQ("", read.refusal);
     ASSERT_FALSE(read.document.isNull());
@@ -32,18 +30,18 @@ TEST(NestingDepthFilterTest, NestingUpToTheLimitPasses) {
     EXPECT_EQ(4u, elements->length());
 }
 
-TEST(NestingDepthFilterTest, SiblingsDoNotAddUp) {
+TEST(XmlGuardFilterDepthTest, SiblingsDoNotAddUp) {
     const ZefTest::GuardedRead read =
         ZefTest::readGuarded("<r>" + ZefTest::nestedElements(2) + ZefTest::nestedElements(2) + "</r>", depthLimit(3));
     EXPECT_EQ("", read.refusal);
 }
 
-TEST(NestingDepthFilterTest, OneLevelPastTheLimitIsRefused) {
+TEST(XmlGuardFilterDepthTest, OneLevelPastTheLimitIsRefused) {
     const ZefTest::GuardedRead read = ZefTest::readGuarded(ZefTest::nestedElements(5), depthLimit(4));
     EXPECT_EQ("elements nested deeper than 4 levels (ZEF_VALIDATOR_MAX_DEPTH)", read.refusal);
 }
 
-TEST(NestingDepthFilterTest, DeepDocumentStopsTheReaderAtTheNextChunk) {
+TEST(XmlGuardFilterDepthTest, DeepDocumentStopsTheReaderAtTheNextChunk) {
     const ZefTest::GuardedRead read = ZefTest::readGuarded(ZefTest::nestedElements(100000), depthLimit(100));
     EXPECT_EQ("elements nested deeper than 100 levels (ZEF_VALIDATOR_MAX_DEPTH)", read.refusal);
     EXPECT_TRUE(read.document.isNull());

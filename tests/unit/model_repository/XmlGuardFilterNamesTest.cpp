@@ -1,5 +1,5 @@
-// The name-pool guard of the reading chain: it counts names the way the DOM
-// document's pool does.
+// The name-pool limit of the reading chain's guard filter: it counts names
+// the way the DOM document's pool does.
 
 #include <gtest/gtest.h>
 
@@ -9,25 +9,21 @@
 #include <Poco/DOM/DOMParser.h>
 
 #include "GuardChainTestSupport.h"
-#include "NamePoolFilter.h"
+#include "InputLimits.h"
 
-using ZefModelRepositoryService::NamePoolFilter;
 using ZefModelRepositoryService::XmlGuardFilter;
-using ZefModelRepositoryService::XmlParseStop;
 
 namespace {
 
 ZefTest::GuardFactory namePool() {
-    return [](Poco::XML::XMLReader* parent, XmlParseStop& stop) {
-        return std::unique_ptr<XmlGuardFilter>(new NamePoolFilter(parent, stop));
-    };
+    return ZefTest::guardWith(ZefModelRepositoryService::InputLimits());
 }
 
-/// Reads `text` through a name-pool filter; `names` receives the number of
+/// Reads `text` through a guard filter; `names` receives the number of
 /// distinct names it counted.
 ZefTest::GuardedRead readCounting(const std::string& text, std::size_t& names) {
     return ZefTest::readGuarded(text, namePool(), [&names](XmlGuardFilter& filter) {
-        names = dynamic_cast<NamePoolFilter&>(filter).size();
+        names = filter.namesUsed();
     });
 }
 
@@ -42,14 +38,14 @@ std::string withNames(int count, const std::string& rootAttributes = "") {
 
 } // namespace
 
-TEST(NamePoolFilterTest, RepeatedNamesCountOnce) {
+TEST(XmlGuardFilterNamesTest, RepeatedNamesCountOnce) {
     std::size_t names = 0;
     const ZefTest::GuardedRead read = readCounting("<r a=\"1\"><e a=\"2\"/><e b=\"3\"/><r/></r>", names);
     EXPECT_EQ("", read.refusal);
     EXPECT_EQ(4u, names);  // r, a, e, b
 }
 
-TEST(NamePoolFilterTest, AsManyNamesAsThePoolHoldsPass) {
+TEST(XmlGuardFilterNamesTest, AsManyNamesAsThePoolHoldsPass) {
     std::size_t names = 0;
     const ZefTest::GuardedRead read = readCounting(withNames(509), names);
     EXPECT_EQ("", read.refusal);
@@ -57,17 +53,17 @@ TEST(NamePoolFilterTest, AsManyNamesAsThePoolHoldsPass) {
     EXPECT_EQ(509u, names);
 }
 
-TEST(NamePoolFilterTest, OneNameMoreIsRefused) {
+TEST(XmlGuardFilterNamesTest, OneNameMoreIsRefused) {
     const ZefTest::GuardedRead read = ZefTest::readGuarded(withNames(510), namePool());
     EXPECT_EQ("more than 509 distinct element and attribute names, more than a DOM document holds", read.refusal);
 }
 
-TEST(NamePoolFilterTest, AttributeNamesCount) {
+TEST(XmlGuardFilterNamesTest, AttributeNamesCount) {
     const ZefTest::GuardedRead read = ZefTest::readGuarded(withNames(509, " extra=\"1\""), namePool());
     EXPECT_EQ("more than 509 distinct element and attribute names, more than a DOM document holds", read.refusal);
 }
 
-TEST(NamePoolFilterTest, NamespaceUriMakesADistinctName) {
+TEST(XmlGuardFilterNamesTest, NamespaceUriMakesADistinctName) {
     // "x" in no namespace, "p:x" and "x" in urn:a are three entries of the
     // pool; the reader does not report namespace declarations as attributes.
     std::size_t names = 0;
@@ -76,7 +72,7 @@ TEST(NamePoolFilterTest, NamespaceUriMakesADistinctName) {
     EXPECT_EQ(4u, names);
 }
 
-TEST(NamePoolFilterTest, AFullCountFitsTheRealDomPool) {
+TEST(XmlGuardFilterNamesTest, AFullCountFitsTheRealDomPool) {
     // 509 names as this filter counts them, namespaced ones among them: a DOM
     // parser without a name pool of its own takes the document (were its
     // pool to count a name more, it would overflow here).
@@ -94,7 +90,7 @@ TEST(NamePoolFilterTest, AFullCountFitsTheRealDomPool) {
     EXPECT_NO_THROW(document = parser.parseMemory(text.data(), text.size()));
 }
 
-TEST(NamePoolFilterTest, ManyNamesInALargeDocumentStopTheReader) {
+TEST(XmlGuardFilterNamesTest, ManyNamesInALargeDocumentStopTheReader) {
     std::string text = "<r>";
     for (int i = 0; i < 5000; ++i) {
         text += "<n" + std::to_string(i) + "/>";
