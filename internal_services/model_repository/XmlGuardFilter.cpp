@@ -1,8 +1,10 @@
 #include "XmlGuardFilter.h"
 
+#include <Poco/Exception.h>
 #include <Poco/SAX/Attributes.h>
 #include <Poco/SAX/Locator.h>
 #include <Poco/SAX/XMLReader.h>
+#include <Poco/XML/NamePool.h>
 
 #include "ElementPositions.h"
 #include "InputLimits.h"
@@ -19,12 +21,6 @@ namespace {
 std::uint64_t saturatingSum(std::uint64_t a, std::uint64_t b) { return a > UINT64_MAX - b ? UINT64_MAX : a + b; }
 
 std::uint64_t lengthOf(int length) { return length > 0 ? static_cast<std::uint64_t>(length) : 0; }
-
-// The part of a qualified name after its prefix, without a copy.
-std::string_view localPart(const XMLString& qname) {
-    const std::string::size_type colon = qname.find(':');
-    return colon == std::string::npos ? std::string_view(qname) : std::string_view(qname).substr(colon + 1);
-}
 
 } // namespace
 
@@ -77,16 +73,7 @@ bool XmlGuardFilter::produce(std::uint64_t bytes) {
     return true;
 }
 
-bool XmlGuardFilter::useName(const XMLString& qname, const XMLString& uri, std::string_view localName) {
-    if (!_names.use(qname, uri, localName)) {
-        refuse(NamePoolGuard::reason());
-        return false;
-    }
-    return true;
-}
-
-bool XmlGuardFilter::admitElement(const XMLString& uri, const XMLString& localName, const XMLString& qname,
-                                  const Poco::XML::Attributes& attributes) {
+bool XmlGuardFilter::admitElement(const Poco::XML::Attributes& attributes) {
     if (++_depth > _maxDepth) {
         refuse("elements nested deeper than " + std::to_string(_maxDepth) + " levels (ZEF_VALIDATOR_MAX_DEPTH)");
         return false;
@@ -94,17 +81,6 @@ bool XmlGuardFilter::admitElement(const XMLString& uri, const XMLString& localNa
     const int count = attributes.getLength();
     for (int i = 0; i < count; ++i) {
         if (!produce(attributes.getValue(i).size())) {
-            return false;
-        }
-    }
-    // The DOM names an element by its qualified name and the local part of
-    // that; an attribute by the names the reader reports for it.
-    const XMLString& elementName = qname.empty() ? localName : qname;
-    if (!useName(elementName, uri, localPart(elementName))) {
-        return false;
-    }
-    for (int i = 0; i < count; ++i) {
-        if (!useName(attributes.getQName(i), attributes.getURI(i), attributes.getLocalName(i))) {
             return false;
         }
     }
@@ -143,13 +119,19 @@ void XmlGuardFilter::endDocument() {
 
 void XmlGuardFilter::startElement(const XMLString& uri, const XMLString& localName, const XMLString& qname,
                                   const Poco::XML::Attributes& attributes) {
-    if (stopped() || !admitElement(uri, localName, qname, attributes)) {
+    if (stopped() || !admitElement(attributes)) {
         return;
     }
     if (_positions != nullptr) {
         notePosition();
     }
-    WhitespaceFilter::startElement(uri, localName, qname, attributes);
+    try {
+        WhitespaceFilter::startElement(uri, localName, qname, attributes);
+    } catch (const Poco::PoolOverflowException&) {
+        // The element, and its names, did not reach the tree.
+        refuse("more than " + std::to_string(POCO_XML_NAMEPOOL_DEFAULT_SIZE) +
+               " distinct element and attribute names, more than a DOM document holds");
+    }
 }
 
 void XmlGuardFilter::endElement(const XMLString& uri, const XMLString& localName, const XMLString& qname) {

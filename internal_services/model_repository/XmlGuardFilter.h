@@ -8,7 +8,6 @@
 #include <Poco/SAX/WhitespaceFilter.h>
 
 #include "EntityExpansion.h"
-#include "NamePoolGuard.h"
 #include "XmlParseStop.h"
 
 namespace Poco {
@@ -39,8 +38,12 @@ struct InputLimits;
 ///   input byte (the most any encoding grows to in UTF-8), plus the limit,
 ///   which also catches an attribute default that copies an entity into
 ///   every element;
-/// - the document uses more distinct names than its name pool holds (see
-///   NamePoolGuard).
+/// - the document uses more distinct element and attribute names than the
+///   name pool of a DOM document made without one holds. The pool throws
+///   from inside the DOM builder then; this filter catches that before it
+///   reaches the XML reader, which, left by an exception, never frees its
+///   parser (see XmlParseStop), and refuses the document instead, so that
+///   it fails like any malformed one.
 ///
 /// The checks share one filter so that the events of a large document pass
 /// one layer, as they do in a plain DOM parser. Every event is passed on
@@ -57,9 +60,6 @@ public:
     /// parse.
     XmlGuardFilter(Poco::XML::XMLReader* parent, XmlParseStop& stop, const InputLimits& limits,
                    ElementPositions* positions = nullptr);
-
-    /// The number of distinct names met so far.
-    std::size_t namesUsed() const { return _names.size(); }
 
     // XMLReader: the declaration handler of the builder is taken by this
     // filter, which passes its events on.
@@ -116,14 +116,11 @@ protected:
 
 private:
     /// Whether the element about to start, with these attributes, stays
-    /// within every limit; refuses the document when not.
-    bool admitElement(const Poco::XML::XMLString& uri, const Poco::XML::XMLString& localName,
-                      const Poco::XML::XMLString& qname, const Poco::XML::Attributes& attributes);
+    /// within the depth and expansion limits; refuses the document when not.
+    bool admitElement(const Poco::XML::Attributes& attributes);
     /// Counts text the document produces; false, and the document refused,
     /// past the output limit.
     bool produce(std::uint64_t bytes);
-    /// Counts one name; false, and the document refused, past the pool.
-    bool useName(const Poco::XML::XMLString& qname, const Poco::XML::XMLString& uri, std::string_view localName);
     /// The refusal text of an entity check, with the limit and its variable.
     std::string expansionReason(const std::string& what) const;
     /// Notes where the start tag being reported begins.
@@ -141,8 +138,6 @@ private:
     std::uint64_t _outputLimit;
     std::uint64_t _produced = 0;
     EntityExpansion _entities;
-
-    NamePoolGuard _names;
 };
 
 } // namespace ZefModelRepositoryService
