@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 
 #include <Poco/DOM/DOMBuilder.h>
@@ -52,12 +53,27 @@ PathKind classify(const std::string& name) {
     throw ZefException(fileName + " refused: " + reason);
 }
 
+// A document's bytes, as read: not cleared first, since every byte of the
+// part that is used is written by the read.
+struct DocumentText {
+    std::unique_ptr<char[]> bytes;
+    std::size_t size = 0;
+
+    /// A copy of `text` (a document given in place of a file name).
+    static DocumentText of(const std::string& text) {
+        DocumentText copy;
+        copy.bytes.reset(new char[text.size() + 1]);
+        copy.size = text.copy(copy.bytes.get(), text.size());
+        return copy;
+    }
+};
+
 // The document is read into memory and parsed from there, so that a file
 // name is never interpreted as a URI by the XML reader. It is opened
 // without blocking and checked again once open, so a file replaced by a
 // FIFO or a device after the first check cannot stall the run, and its
 // size is bounded before and while it is read.
-std::string readFile(const std::string& name, std::uint64_t maxSize) {
+DocumentText readFile(const std::string& name, std::uint64_t maxSize) {
     const int fd = ::open(name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (fd < 0) {
         throw ZefException(name + " is not readable");
@@ -77,13 +93,17 @@ std::string readFile(const std::string& name, std::uint64_t maxSize) {
     // takes; a file that turns out longer grows the buffer block by block.
     // One byte more than the size: the read that finds the end needs room,
     // and a full buffer would be grown (and copied) only to learn that.
-    std::string content(static_cast<size_t>(st.st_size) + 1, '\0');
-    size_t filled = 0;
+    std::size_t capacity = static_cast<std::size_t>(st.st_size) + 1;
+    DocumentText content;
+    content.bytes.reset(new char[capacity]);
     for (;;) {
-        if (filled == content.size()) {
-            content.resize(content.size() + kReadBlockSize);
+        if (content.size == capacity) {
+            std::unique_ptr<char[]> larger(new char[capacity + kReadBlockSize]);
+            std::memcpy(larger.get(), content.bytes.get(), content.size);
+            content.bytes = std::move(larger);
+            capacity += kReadBlockSize;
         }
-        ssize_t n = ::read(fd, &content[filled], content.size() - filled);
+        ssize_t n = ::read(fd, content.bytes.get() + content.size, capacity - content.size);
         if (n < 0 && errno == EINTR) {
             continue;
         }
@@ -94,15 +114,14 @@ std::string readFile(const std::string& name, std::uint64_t maxSize) {
         if (n == 0) {
             break;
         }
-        filled += static_cast<size_t>(n);
+        content.size += static_cast<size_t>(n);
         // A file that grows while it is read is bounded all the same.
-        if (filled > maxSize) {
+        if (content.size > maxSize) {
             ::close(fd);
             refuse(name, tooLarge);
         }
     }
     ::close(fd);
-    content.resize(filled);
     return content;
 }
 
@@ -112,19 +131,19 @@ std::string readFile(const std::string& name, std::uint64_t maxSize) {
 // document in this one pass when it is past a limit. `text` is overwritten
 // when the document is refused (see XmlParseStop). With `positions`, the
 // filter also notes where each element begins.
-Poco::AutoPtr<Poco::XML::Document> parseText(const std::string& fileName, std::string& text,
+Poco::AutoPtr<Poco::XML::Document> parseText(const std::string& fileName, DocumentText& text,
                                              const ZefModelRepositoryService::InputLimits& limits,
                                              ZefModelRepositoryService::ElementPositions* positions) {
     using namespace ZefModelRepositoryService;
     Poco::XML::SAXParser reader;
     reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACES, true);
     reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACE_PREFIXES, true);
-    XmlParseStop stop(&text[0], text.size());
+    XmlParseStop stop(text.bytes.get(), text.size);
     XmlGuardFilter guardFilter(&reader, stop, limits, positions);
     Poco::XML::DOMBuilder builder(guardFilter);
     Poco::AutoPtr<Poco::XML::Document> document;
     try {
-        document = builder.parseMemoryNP(text.data(), text.size());
+        document = builder.parseMemoryNP(text.bytes.get(), text.size);
     } catch (const Poco::Exception& e) {
         // The reader's own error, unless a filter stopped it.
         if (!stop.stopped()) {
@@ -141,7 +160,7 @@ Poco::AutoPtr<Poco::XML::Document> parseText(const std::string& fileName, std::s
 
 void ZefConfiguration::load(const std::string& fileName) {
     const ZefModelRepositoryService::InputLimits limits = ZefModelRepositoryService::InputLimits::fromEnvironment();
-    std::string text;
+    DocumentText text;
     switch (classify(fileName)) {
     case PathKind::Other:
         throw ZefException(fileName + " is not a file");
@@ -151,7 +170,7 @@ void ZefConfiguration::load(const std::string& fileName) {
         text = readFile(fileName, limits.maxFileSize);
         break;
     case PathKind::Missing:
-        text = fileName;
+        text = DocumentText::of(fileName);
         break;
     }
     // The old document goes first: two large documents are never held at once.
