@@ -339,8 +339,8 @@ void ModelParser::handleModelFeatures(Node* modelFeatures, MomWrapper* mom) {
 
 // ---- shared readers ---------------------------------------------------------
 
-std::vector<Poco::XML::Attr*> ModelParser::attributesOf(Node& node) {
-    std::vector<Attr*> result;
+AttributeList ModelParser::attributesOf(Node& node) {
+    AttributeList result;
     // Most elements of a model carry no attribute: they need no map.
     if (!node.hasAttributes()) {
         return result;

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "AttributeList.h"
 #include "SourceLocation.h"
 #include "ZefOamSpiMrTypes.h"
 #include "ZefReturn.h"
@@ -100,7 +101,7 @@ public:
 
     /// The attributes of `node` in the DOM's order (none for a node that is
     /// not an element), each traced "Found attribute: %s=%s.".
-    std::vector<Attr*> attributesOf(Node& node);
+    AttributeList attributesOf(Node& node);
     /// Turns a setter result into a warning: ZefOk is silent, ZefAlreadyExists
     /// reports `alreadySetFormat`, any other result `failedFormat`; both
     /// formats take the same arguments.

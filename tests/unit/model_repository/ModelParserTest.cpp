@@ -404,13 +404,14 @@ TEST_F(ModelParserTest, IgnoreAllAttributesLogsEachAsUnknown) {
 }
 
 TEST_F(ModelParserTest, AttributesOfTracesEveryAttribute) {
-    const std::vector<Poco::XML::Attr*> attributes = parser.attributesOf(*loadElement("<a one=\"1\" two=\"2\"/>"));
+    const ZefModelRepositoryService::AttributeList attributes =
+        parser.attributesOf(*loadElement("<a one=\"1\" two=\"2\"/>"));
     ASSERT_EQ(2u, attributes.size());
-    EXPECT_EQ("one", attributes[0]->name());
-    EXPECT_EQ("two", attributes[1]->name());
+    EXPECT_EQ("one", attributes.begin()[0]->name());
+    EXPECT_EQ("two", attributes.begin()[1]->name());
     EXPECT_TRUE(logged("Found attribute: one=1."));
     EXPECT_TRUE(logged("Found attribute: two=2."));
-    EXPECT_TRUE(parser.attributesOf(*firstChildOf("<a>text</a>")).empty());
+    EXPECT_EQ(0u, parser.attributesOf(*firstChildOf("<a>text</a>")).size());
 }
 
 TEST_F(ModelParserTest, CheckThrowExceptionRecordsAndLogsErrorsAndWarnings) {
