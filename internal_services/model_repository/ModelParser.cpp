@@ -39,33 +39,6 @@ const char* const kMomNotLoaded = "Mom not loaded:";
 
 bool isElement(const Node& node) { return node.nodeType() == Node::ELEMENT_NODE; }
 
-/// The number of elements named `name` below `root`, in document order
-/// (as getElementsByTagName lists them), and the first of them in `first`.
-/// Counted in one walk: a node list walks the whole document to tell its
-/// length and again to hand out its first item.
-unsigned long elementsNamed(Node* root, const std::string& name, Node*& first) {
-    unsigned long count = 0;
-    first = nullptr;
-    Node* node = root != nullptr ? root->firstChild() : nullptr;
-    while (node != nullptr) {
-        if (isElement(*node) && node->nodeName() == name) {
-            if (first == nullptr) {
-                first = node;
-            }
-            ++count;
-        }
-        if (Node* child = node->firstChild()) {
-            node = child;
-            continue;
-        }
-        while (node != root && node->nextSibling() == nullptr) {
-            node = node->parentNode();
-        }
-        node = node != root ? node->nextSibling() : nullptr;
-    }
-    return count;
-}
-
 // The formats of the warnings about a value the MOM record refused: the
 // attribute or element name and the mim node's name.
 const char* const kMomAlreadySet = "The %s of the mom (%s) is already set.";
@@ -154,8 +127,12 @@ int ModelParser::parse(const std::string& fileName) {
     Node* models = nullptr;
     unsigned long modelsCount = 0;
     try {
+        // Counted while the file is read: a count afterwards would walk
+        // the whole tree once more.
+        document.tally("models");
         document.load(fileName);
-        modelsCount = elementsNamed(document.getDocument(), "models", models);
+        modelsCount = document.talliedCount();
+        models = document.firstTallied();
     } catch (const Zef::ZefException& e) {
         ZEF_LOG_ERROR("Error in the Model");
         ZEF_TRACE("%s", e.what());

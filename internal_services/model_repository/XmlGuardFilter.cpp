@@ -131,6 +131,12 @@ void XmlGuardFilter::startElement(const XMLString& uri, const XMLString& localNa
         // The element, and its names, did not reach the tree.
         refuse("more than " + std::to_string(POCO_XML_NAMEPOOL_DEFAULT_SIZE) +
                " distinct element and attribute names, more than a DOM document holds");
+        return;
+    }
+    if (_tally != nullptr) {
+        // The DOM names an element by its qualified name, or by its local
+        // name when the reader reports none.
+        _tally->note(qname.empty() ? localName : qname, _depth);
     }
 }
 

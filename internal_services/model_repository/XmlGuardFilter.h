@@ -7,6 +7,7 @@
 #include <Poco/SAX/DeclHandler.h>
 #include <Poco/SAX/WhitespaceFilter.h>
 
+#include "ElementTally.h"
 #include "EntityExpansion.h"
 #include "XmlParseStop.h"
 
@@ -60,6 +61,10 @@ public:
     /// parse.
     XmlGuardFilter(Poco::XML::XMLReader* parent, XmlParseStop& stop, const InputLimits& limits,
                    ElementPositions* positions = nullptr);
+
+    /// Counts into `tally` every element of its name that reaches the
+    /// builder; `tally` must outlive the parse.
+    void setTally(ElementTally* tally) { _tally = tally; }
 
     // XMLReader: the declaration handler of the builder is taken by this
     // filter, which passes its events on.
@@ -130,6 +135,7 @@ private:
     Poco::XML::DeclHandler* _declHandler = nullptr;
     const Poco::XML::Locator* _locator = nullptr;
     ElementPositions* _positions;
+    ElementTally* _tally = nullptr;
 
     std::uint64_t _maxDepth;
     std::uint64_t _depth = 0;

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include <Poco/DOM/DOMBuilder.h>
+#include <Poco/DOM/Element.h>
 #include <Poco/Exception.h>
 #include <Poco/SAX/SAXParser.h>
 
@@ -130,16 +131,19 @@ DocumentText readFile(const std::string& name, std::uint64_t maxSize) {
 // the guard filter between the reader and the builder, which refuses the
 // document in this one pass when it is past a limit. `text` is overwritten
 // when the document is refused (see XmlParseStop). With `positions`, the
-// filter also notes where each element begins.
+// filter also notes where each element begins. `tally` counts the elements
+// of its name.
 Poco::AutoPtr<Poco::XML::Document> parseText(const std::string& fileName, DocumentText& text,
                                              const ZefModelRepositoryService::InputLimits& limits,
-                                             ZefModelRepositoryService::ElementPositions* positions) {
+                                             ZefModelRepositoryService::ElementPositions* positions,
+                                             ZefModelRepositoryService::ElementTally& tally) {
     using namespace ZefModelRepositoryService;
     Poco::XML::SAXParser reader;
     reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACES, true);
     reader.setFeature(Poco::XML::XMLReader::FEATURE_NAMESPACE_PREFIXES, true);
     XmlParseStop stop(text.bytes.get(), text.size);
     XmlGuardFilter guardFilter(&reader, stop, limits, positions);
+    guardFilter.setTally(&tally);
     Poco::XML::DOMBuilder builder(guardFilter);
     Poco::AutoPtr<Poco::XML::Document> document;
     try {
@@ -176,15 +180,44 @@ void ZefConfiguration::load(const std::string& fileName) {
     // The old document goes first: two large documents are never held at once.
     _document = nullptr;
     _positions.clear();
+    _tally.restart();
     try {
-        _document = parseText(fileName, text, limits, _notePositions ? &_positions : nullptr);
+        _document = parseText(fileName, text, limits, _notePositions ? &_positions : nullptr, _tally);
     } catch (...) {
         _positions.clear();
+        _tally.restart();
         throw;
     }
     if (_notePositions) {
         _positions.assignTo(_document.get());
     }
+}
+
+Poco::XML::Node* ZefConfiguration::firstTallied() const {
+    if (_document.isNull() || _tally.count == 0) {
+        return nullptr;
+    }
+    if (_tally.firstDepth == 1) {
+        return _document->documentElement();
+    }
+    // Deeper down: the first in document order, as a walk that descends
+    // before it moves on meets it.
+    const Poco::XML::Node* root = _document.get();
+    Poco::XML::Node* node = root->firstChild();
+    while (node != nullptr) {
+        if (node->nodeType() == Poco::XML::Node::ELEMENT_NODE && node->nodeName() == _tally.name) {
+            return node;
+        }
+        if (Poco::XML::Node* child = node->firstChild()) {
+            node = child;
+            continue;
+        }
+        while (node != root && node->nextSibling() == nullptr) {
+            node = node->parentNode();
+        }
+        node = node != root ? node->nextSibling() : nullptr;
+    }
+    return nullptr;
 }
 
 Poco::AutoPtr<Poco::XML::NodeList> ZefConfiguration::getElementsByTagName(const std::string& name) const {

@@ -8,6 +8,7 @@
 #include <Poco/DOM/NodeList.h>
 
 #include "ElementPositions.h"
+#include "ElementTally.h"
 
 namespace Zef {
 
@@ -38,6 +39,16 @@ public:
     /// no document is held).
     Poco::AutoPtr<Poco::XML::NodeList> getElementsByTagName(const std::string& name) const;
 
+    /// Has every later load() count the elements named `name` while it
+    /// reads the document (see talliedCount, firstTallied).
+    void tally(const std::string& name) { _tally.name = name; }
+    /// The number of elements of the tallied name in the held document, as
+    /// getElementsByTagName would list them.
+    unsigned long talliedCount() const { return _tally.count; }
+    /// The first element of the tallied name in document order, null when
+    /// there is none. Found without a walk when it is the document element.
+    Poco::XML::Node* firstTallied() const;
+
     /// The held document, or null.
     Poco::XML::Document* getDocument() { return _document.get(); }
     const Poco::XML::Document* getDocument() const { return _document.get(); }
@@ -55,6 +66,7 @@ public:
 private:
     Poco::AutoPtr<Poco::XML::Document> _document;
     ZefModelRepositoryService::ElementPositions _positions;
+    ZefModelRepositoryService::ElementTally _tally;
     static bool _notePositions;
 };
 

@@ -274,4 +274,49 @@ TEST_F(ZefConfigurationTest, ExternalDocumentTypeIsNeverRead) {
     EXPECT_EQ("", models->innerText());
 }
 
+// ---- the tally of one name -----------------------------------------------------------
+
+TEST_F(ZefConfigurationTest, WithoutATallyNothingIsCounted) {
+    holder.load("<models><mim/></models>");
+    EXPECT_EQ(0u, holder.talliedCount());
+    EXPECT_EQ(nullptr, holder.firstTallied());
+}
+
+TEST_F(ZefConfigurationTest, TheTalliedDocumentElementIsFoundAtOnce) {
+    holder.tally("models");
+    holder.load("<models><mim/><models/></models>");
+    EXPECT_EQ(2u, holder.talliedCount());
+    EXPECT_EQ(holder.getDocument()->documentElement(), holder.firstTallied());
+}
+
+TEST_F(ZefConfigurationTest, TalliedElementsBelowTheRootAreCountedAndTheFirstInDocumentOrderFound) {
+    holder.tally("models");
+    holder.load("<root><a><b><models id=\"1\"/></b></a><models id=\"2\"><models id=\"3\"/></models></root>");
+    EXPECT_EQ(3u, holder.talliedCount());
+    Poco::AutoPtr<Poco::XML::NodeList> listed = holder.getElementsByTagName("models");
+    EXPECT_EQ(listed->length(), holder.talliedCount());
+    ASSERT_NE(nullptr, holder.firstTallied());
+    EXPECT_EQ(listed->item(0), holder.firstTallied());
+    EXPECT_EQ("1", static_cast<Poco::XML::Element*>(holder.firstTallied())->getAttribute("id"));
+}
+
+TEST_F(ZefConfigurationTest, TheTallyCountsQualifiedNamesAsTheDomNamesThem) {
+    holder.tally("models");
+    holder.load("<r xmlns:p=\"urn:p\"><p:models/><models xmlns=\"urn:q\"/><Models/></r>");
+    EXPECT_EQ(1u, holder.talliedCount());
+    EXPECT_EQ(holder.getElementsByTagName("models")->item(0), holder.firstTallied());
+}
+
+TEST_F(ZefConfigurationTest, EachLoadTalliesItsOwnDocument) {
+    holder.tally("models");
+    holder.load("<models><models/></models>");
+    EXPECT_EQ(2u, holder.talliedCount());
+    holder.load("<other/>");
+    EXPECT_EQ(0u, holder.talliedCount());
+    EXPECT_EQ(nullptr, holder.firstTallied());
+    EXPECT_NE("", loadFailure("<models><unclosed></models>"));
+    EXPECT_EQ(0u, holder.talliedCount());
+    EXPECT_EQ(nullptr, holder.firstTallied());
+}
+
 } // namespace
