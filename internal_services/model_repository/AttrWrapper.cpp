@@ -181,6 +181,18 @@ ZefReturnT AttrWrapper::setMax(const std::string& text)
     return MrUtil::setMaxHlp(_attr.multiplicityRange, _isMaxSet, text);
 }
 
+void AttrWrapper::setMinValue(int16_t value)
+{
+    _attr.multiplicityRange.min = value;
+    _isMinSet = true;
+}
+
+void AttrWrapper::setMaxValue(int16_t value)
+{
+    _attr.multiplicityRange.max = value;
+    _isMaxSet = true;
+}
+
 ZefReturnT AttrWrapper::setDefaultValue(const std::string& text)
 {
     return MrUtil::setDefaultValueHlp(text, _attr.defaultValue);

@@ -76,6 +76,11 @@ public:
     /// Upper bound: the empty text and "*" mean unbounded (32767); a negative
     /// or unconvertible text is refused with ZefInvalidArgument.
     ZefReturnT setMax(const std::string& text);
+    /// The lower bound as a number, marked given: compilation fills a
+    /// default for every attribute without bounds, with no text to convert.
+    void setMinValue(int16_t value);
+    /// The upper bound as a number, marked given.
+    void setMaxValue(int16_t value);
     /// First value wins: ZefAlreadyExists (and the error "Default value (%s)
     /// is already set to (%s).") for a second value.
     ZefReturnT setDefaultValue(const std::string& text);

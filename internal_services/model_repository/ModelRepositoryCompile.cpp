@@ -7,8 +7,11 @@
 
 #include "ModelRepository.h"
 
+#include <algorithm>
+#include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "AttrWrapper.h"
@@ -31,10 +34,10 @@ void setMultiplicityDefaults(AttrWrapper& attr)
 {
     if (!attr.getIsMinSet()) {
         const bool optional = attr.getStruct().isReadOnly || attr.isNillable();
-        attr.setMin(optional ? "0" : "1");
+        attr.setMinValue(optional ? 0 : 1);
     }
     if (!attr.getIsMaxSet()) {
-        attr.setMax("1");
+        attr.setMaxValue(1);
     }
 }
 
@@ -84,9 +87,64 @@ void completeMimId(ModelRepository& repository, ContWrapper& cont, const Contain
     }
 }
 
+/// The registered classes by the address of their published record: a
+/// class pointer that compilation has resolved leads back to the class's
+/// record and to its place in key order, without its key being built and
+/// looked up again.
+class ClassesByRecord {
+public:
+    struct Entry {
+        const ZefOamSpiMoc* record;
+        MocWrapper* wrapper;
+        const std::string* key;
+        size_t rank; // place in key order
+    };
+
+    explicit ClassesByRecord(const ModelRepository::MocMap& mocs)
+    {
+        _entries.reserve(mocs.size());
+        for (const auto& entry : mocs) {
+            _entries.push_back({&entry.second->getStruct(), entry.second, &entry.first, _entries.size()});
+        }
+        std::sort(_entries.begin(), _entries.end(),
+                  [](const Entry& a, const Entry& b) { return std::less<const ZefOamSpiMoc*>()(a.record, b.record); });
+    }
+
+    /// The registered class of that record, or null.
+    const Entry* find(const ZefOamSpiMoc* record) const
+    {
+        const auto found = std::lower_bound(_entries.begin(), _entries.end(), record,
+                                            [](const Entry& entry, const ZefOamSpiMoc* wanted) {
+                                                return std::less<const ZefOamSpiMoc*>()(entry.record, wanted);
+                                            });
+        return found != _entries.end() && found->record == record ? &*found : nullptr;
+    }
+
+private:
+    std::vector<Entry> _entries;
+};
+
+/// The registered class a containment names on one side: the class it was
+/// resolved to, or else the class its key names. Null when there is none;
+/// `key` then holds the key (which is only built in that case, as the key
+/// builder logs a missing part).
+const ClassesByRecord::Entry* namedClass(const ModelRepository::MocMap& mocs, const ClassesByRecord& classes,
+                                         const ContWrapper& cont, const ZefOamSpiMoc* resolved,
+                                         std::string (ContWrapper::*classKey)() const, std::string& key)
+{
+    const ClassesByRecord::Entry* moc = classes.find(resolved);
+    if (moc != nullptr) {
+        return moc;
+    }
+    key = (cont.*classKey)();
+    const auto found = mocs.find(key);
+    return found != mocs.end() ? classes.find(&found->second->getStruct()) : nullptr;
+}
+
 /// How the containments of one class are listed: by parent class (the
 /// class's child containments) or by child class (its parent containments).
 struct ContainmentList {
+    const ZefOamSpiMoc* ZefOamSpiContainment::*classRecord;
     std::string (ContWrapper::*classKey)() const;
     ZefReturnT (MocWrapper::*setFirst)(const ZefOamSpiContainment*);
     ZefReturnT (ContWrapper::*setNext)(const ContWrapper*);
@@ -94,31 +152,73 @@ struct ContainmentList {
     const char* linkFailed;   // containment key, next containment key
 };
 
+/// Chains the containments of one group behind each other.
+void chainGroup(const ContainmentList& list, ContWrapper* const* conts, size_t count, const CompileReporter& reporter)
+{
+    for (size_t index = 0; index + 1 < count; ++index) {
+        if ((conts[index]->*list.setNext)(conts[index + 1]) != ZefOk) {
+            reporter.report(ZEF_LOG_LEVEL_ERROR, list.linkFailed, conts[index]->getId().c_str(),
+                            conts[index + 1]->getId().c_str());
+        }
+    }
+}
+
 /// Groups the containments by class key (groups and members in key order),
 /// gives each class the first containment of its group and chains the
-/// group's containments behind each other.
+/// group's containments behind each other. A group whose class is
+/// registered is found through the class pointer; only a group of a class
+/// that is not is kept under its key.
 void listContainments(ModelRepository& repository, const ContainmentList& list, const CompileReporter& reporter)
 {
-    std::map<std::string, std::vector<ContWrapper*>> groups;
-    for (const auto& entry : repository.getContMap()) {
-        groups[(entry.second->*list.classKey)()].push_back(entry.second);
-    }
     const ModelRepository::MocMap& mocs = repository.getMocMap();
-    for (const auto& group : groups) {
-        const std::vector<ContWrapper*>& conts = group.second;
-        const auto moc = mocs.find(group.first);
-        if (moc == mocs.end()) {
-            reporter.report(ZEF_LOG_LEVEL_ERROR, list.classMissing, group.first.c_str());
+    const ClassesByRecord classes(mocs);
+    std::vector<std::pair<const ClassesByRecord::Entry*, ContWrapper*>> registered;
+    registered.reserve(repository.getContMap().size());
+    std::map<std::string, std::vector<ContWrapper*>> unregistered;
+    for (const auto& entry : repository.getContMap()) {
+        ContWrapper* cont = entry.second;
+        std::string key;
+        const ClassesByRecord::Entry* moc =
+            namedClass(mocs, classes, *cont, cont->getStruct().*list.classRecord, list.classKey, key);
+        if (moc != nullptr) {
+            registered.emplace_back(moc, cont);
         } else {
-            (moc->second->*list.setFirst)(&conts.front()->getStruct());
-        }
-        for (size_t index = 0; index + 1 < conts.size(); ++index) {
-            if ((conts[index]->*list.setNext)(conts[index + 1]) != ZefOk) {
-                reporter.report(ZEF_LOG_LEVEL_ERROR, list.linkFailed, conts[index]->getId().c_str(),
-                                conts[index + 1]->getId().c_str());
-            }
+            unregistered[key].push_back(cont);
         }
     }
+    // Stable: the members of a group stay in containment key order.
+    std::stable_sort(registered.begin(), registered.end(),
+                     [](const std::pair<const ClassesByRecord::Entry*, ContWrapper*>& a,
+                        const std::pair<const ClassesByRecord::Entry*, ContWrapper*>& b) {
+                         return a.first->rank < b.first->rank;
+                     });
+    std::vector<ContWrapper*> ordered;
+    ordered.reserve(registered.size());
+    for (const auto& item : registered) {
+        ordered.push_back(item.second);
+    }
+
+    // The groups of unregistered classes take their places in key order
+    // among the others.
+    auto missing = unregistered.begin();
+    const auto reportMissingBefore = [&](const std::string* key) {
+        for (; missing != unregistered.end() && (key == nullptr || missing->first < *key); ++missing) {
+            reporter.report(ZEF_LOG_LEVEL_ERROR, list.classMissing, missing->first.c_str());
+            chainGroup(list, missing->second.data(), missing->second.size(), reporter);
+        }
+    };
+    for (size_t first = 0; first < registered.size();) {
+        const ClassesByRecord::Entry* moc = registered[first].first;
+        size_t end = first + 1;
+        while (end < registered.size() && registered[end].first == moc) {
+            ++end;
+        }
+        reportMissingBefore(moc->key);
+        (moc->wrapper->*list.setFirst)(&ordered[first]->getStruct());
+        chainGroup(list, &ordered[first], end - first, reporter);
+        first = end;
+    }
+    reportMissingBefore(nullptr);
 }
 
 } // namespace
@@ -242,7 +342,7 @@ void ModelRepository::compileParentListConts()
     // A group is always a fresh entry of the grouping map, so the reserved
     // "more than one child containments" finding cannot arise here.
     static const ContainmentList byParent = {
-        &ContWrapper::getParentMocId, &MocWrapper::setChildContainment,
+        &ZefOamSpiContainment::parentMoc, &ContWrapper::getParentMocId, &MocWrapper::setChildContainment,
         static_cast<ZefReturnT (ContWrapper::*)(const ContWrapper*)>(&ContWrapper::setNextContainmentSameParentMoc),
         "Failed to find Moc(%s).", "Failed to setNextContainmentSameParentMoc on (%s) for (%s)"};
     listContainments(*this, byParent, compileReporter());
@@ -251,7 +351,7 @@ void ModelRepository::compileParentListConts()
 void ModelRepository::compileChildListConts()
 {
     static const ContainmentList byChild = {
-        &ContWrapper::getChildMocId, &MocWrapper::setParentContainment,
+        &ZefOamSpiContainment::childMoc, &ContWrapper::getChildMocId, &MocWrapper::setParentContainment,
         static_cast<ZefReturnT (ContWrapper::*)(const ContWrapper*)>(&ContWrapper::setNextContainmentSameChildMoc),
         "compileChildListConts(), failed to find Moc(%s)", "Failed to setNextContainmentSameChildMoc on (%s) for (%s)"};
     listContainments(*this, byChild, compileReporter());
@@ -259,10 +359,14 @@ void ModelRepository::compileChildListConts()
 
 void ModelRepository::setSystemCreatedforConts()
 {
+    const ClassesByRecord classes(_mocs);
     for (const auto& entry : _conts) {
-        const auto child = _mocs.find(entry.second->getChildMocId());
-        if (child != _mocs.end()) {
-            entry.second->setIsSystemCreated(child->second->getIsSystemCreated());
+        ContWrapper& cont = *entry.second;
+        std::string key;
+        const ClassesByRecord::Entry* child =
+            namedClass(_mocs, classes, cont, cont.getStruct().childMoc, &ContWrapper::getChildMocId, key);
+        if (child != nullptr) {
+            cont.setIsSystemCreated(child->wrapper->getIsSystemCreated());
         }
     }
 }

@@ -180,6 +180,20 @@ TEST(AttrWrapperTest, MultiplicityBounds)
     EXPECT_EQ(5, attr.getStruct().multiplicityRange.max);
 }
 
+TEST(AttrWrapperTest, MultiplicityBoundsAsNumbers)
+{
+    AttrWrapper attr;
+    attr.setMinValue(0);
+    EXPECT_TRUE(attr.getIsMinSet());
+    EXPECT_FALSE(attr.getIsMaxSet());
+    EXPECT_EQ(0, attr.getStruct().multiplicityRange.min);
+    EXPECT_EQ(1, attr.getStruct().multiplicityRange.max);
+    attr.setMaxValue(7);
+    EXPECT_TRUE(attr.getIsMaxSet());
+    EXPECT_EQ(7, attr.getStruct().multiplicityRange.max);
+    EXPECT_EQ(0, attr.getStruct().multiplicityRange.min);
+}
+
 TEST(AttrWrapperTest, DefaultValueAndUnitFirstValueWins)
 {
     ZefTest::LogCapture log;
