@@ -5,11 +5,12 @@
 
 #include "ModelRepository.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <set>
 #include <string>
-#include <unordered_map>
+#include <string_view>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -152,6 +153,12 @@ bool isSet(const char* text)
     return text != nullptr && *text != '\0';
 }
 
+/// A text of a record, null read as the empty text.
+std::string_view textOf(const char* text)
+{
+    return text != nullptr ? std::string_view(text) : std::string_view();
+}
+
 /// Whether `text` matches `pattern`; the repository's doRegexp.
 using PatternMatcher = std::function<bool(const std::string& pattern, const std::string& text)>;
 
@@ -186,19 +193,102 @@ std::vector<std::string> nonConformingDefaults(const ZefOamSpiDerivedDatatype* d
     return result;
 }
 
+/// The identity key of a record, read on first use: most elements give no
+/// finding, and below the trace level nothing names them.
+class LazyKey {
+public:
+    explicit LazyKey(const GeneralPropertiesWrapper& record) : _record(record) {}
+
+    const char* operator()()
+    {
+        if (!_read) {
+            _key = _record.getId();
+            _read = true;
+        }
+        return _key.c_str();
+    }
+
+private:
+    const GeneralPropertiesWrapper& _record;
+    std::string _key;
+    bool _read = false;
+};
+
 /// The registry key of each published record of a registry, so that a
 /// pointer found in the model graph is named as the registry names it
-/// without a walk over the registry.
-template <typename Record, typename Map>
-std::unordered_map<const Record*, std::string> keysByRecord(const Map& map)
-{
-    std::unordered_map<const Record*, std::string> keys;
-    keys.reserve(map.size());
-    for (const auto& entry : map) {
-        keys.emplace(&entry.second->getStruct(), entry.first);
+/// without a walk over the registry. The keys are the registry's own
+/// strings; each record also has its place here, for marks kept per record.
+template <typename Record>
+class RegistryKeys {
+public:
+    static constexpr size_t kNone = static_cast<size_t>(-1);
+
+    template <typename Map>
+    explicit RegistryKeys(const Map& map)
+    {
+        _entries.reserve(map.size());
+        for (const auto& entry : map) {
+            _entries.emplace_back(&entry.second->getStruct(), &entry.first);
+        }
+        std::sort(_entries.begin(), _entries.end(), [](const Entry& a, const Entry& b) {
+            return std::less<const Record*>()(a.first, b.first);
+        });
     }
-    return keys;
-}
+
+    /// The number of records, each of which has a place below it.
+    size_t size() const { return _entries.size(); }
+
+    /// The place of `record`, or kNone when it is in no registry.
+    size_t indexOf(const Record* record) const
+    {
+        const auto found = std::lower_bound(_entries.begin(), _entries.end(), record,
+                                            [](const Entry& entry, const Record* wanted) {
+                                                return std::less<const Record*>()(entry.first, wanted);
+                                            });
+        return found != _entries.end() && found->first == record ? static_cast<size_t>(found - _entries.begin())
+                                                                  : kNone;
+    }
+
+    /// The key of `record`, or null when it is in no registry.
+    const std::string* find(const Record* record) const
+    {
+        const size_t index = indexOf(record);
+        return index != kNone ? _entries[index].second : nullptr;
+    }
+
+private:
+    using Entry = std::pair<const Record*, const std::string*>;
+    std::vector<Entry> _entries;
+};
+
+/// The containments whose chain has been walked: a mark per registered
+/// containment, a set for any other.
+class WalkedContainments {
+public:
+    explicit WalkedContainments(const RegistryKeys<ZefOamSpiContainment>& keys)
+        : _keys(keys), _marks(keys.size(), false)
+    {
+    }
+
+    /// Marks `cont`; false when it was marked already.
+    bool mark(const ZefOamSpiContainment* cont)
+    {
+        const size_t index = _keys.indexOf(cont);
+        if (index == RegistryKeys<ZefOamSpiContainment>::kNone) {
+            return _others.insert(cont).second;
+        }
+        if (_marks[index]) {
+            return false;
+        }
+        _marks[index] = true;
+        return true;
+    }
+
+private:
+    const RegistryKeys<ZefOamSpiContainment>& _keys;
+    std::vector<bool> _marks;
+    std::unordered_set<const ZefOamSpiContainment*> _others;
+};
 
 } // namespace
 
@@ -495,18 +585,18 @@ void ModelRepository::checkActions(MocWrapper& moc)
     };
     for (MoActionWrapper* action : moc.getMoActionList()) {
         const FindingSubject subject(*this, action);
-        const std::string key = action->getId();
+        LazyKey key(*action);
         const ZefOamSpiDatatypeContainer& returnType = action->getDatatype();
-        ZEF_TRACE("Checking MoAction (%s)", key.c_str());
+        ZEF_TRACE("Checking MoAction (%s)", key());
         if (returnType.type == ZefMrType3Derived) {
             for (const std::string& value : nonConformingDefaults(returnType.derivedDatatype, returnType.defaultValue,
                                                                   action->getTypeContainer(), matches)) {
-                report(levelError, actionDefaultBreaksPattern, key.c_str(), value.c_str(),
+                report(levelError, actionDefaultBreaksPattern, key(), value.c_str(),
                        returnType.derivedDatatype->pattern);
             }
         }
         if (returnType.type == ZefMrType3Reference && returnType.referencedMoc == nullptr) {
-            report(levelError, actionReferenceWithoutMoc, key.c_str());
+            report(levelError, actionReferenceWithoutMoc, key());
         }
         checkParameters(*action);
     }
@@ -521,21 +611,21 @@ void ModelRepository::checkParameters(MoActionWrapper& action)
     };
     for (ParameterWrapper* parameter : action.getParameterList()) {
         const FindingSubject subject(*this, parameter);
-        const std::string key = parameter->getId();
+        LazyKey key(*parameter);
         const ZefOamSpiDatatypeContainer& datatype = parameter->getDatatype();
-        ZEF_TRACE("Checking Parameter (%s)", key.c_str());
+        ZEF_TRACE("Checking Parameter (%s)", key());
         if (datatype.type == ZefMrType3Derived) {
             if (datatype.derivedDatatype == nullptr) {
-                report(levelError, parameterDerivedWithoutDdt, key.c_str());
+                report(levelError, parameterDerivedWithoutDdt, key());
             }
             for (const std::string& value : nonConformingDefaults(datatype.derivedDatatype, datatype.defaultValue,
                                                                   parameter->getTypeContainer(), matches)) {
-                report(levelError, parameterDefaultBreaksPattern, key.c_str(), value.c_str(),
+                report(levelError, parameterDefaultBreaksPattern, key(), value.c_str(),
                        datatype.derivedDatatype->pattern);
             }
         }
         if (datatype.type == ZefMrType3Reference && datatype.referencedMoc == nullptr) {
-            report(levelError, parameterReferenceWithoutMoc, key.c_str());
+            report(levelError, parameterReferenceWithoutMoc, key());
         }
     }
     ZEF_TRACE_LEAVE(" << Validation of Parameters is done.");
@@ -546,25 +636,43 @@ void ModelRepository::checkParameters(MoActionWrapper& action)
 void ModelRepository::checkConts()
 {
     ZEF_TRACE_ENTER(" >> Validating Containments..");
-    const std::unordered_map<const ZefOamSpiContainment*, std::string> contKeys =
-        keysByRecord<ZefOamSpiContainment>(_conts);
-    const std::unordered_map<const ZefOamSpiMoc*, std::string> mocKeys = keysByRecord<ZefOamSpiMoc>(_mocs);
+    const RegistryKeys<ZefOamSpiContainment> contKeys(_conts);
+    const RegistryKeys<ZefOamSpiMoc> mocKeys(_mocs);
     const auto contKey = [&contKeys](const ZefOamSpiContainment* cont) {
-        const auto found = contKeys.find(cont);
-        return found != contKeys.end() ? found->second : ContWrapper::getContId(cont);
+        const std::string* key = contKeys.find(cont);
+        return key != nullptr ? *key : ContWrapper::getContId(cont);
     };
     const auto mocKey = [&mocKeys](const ZefOamSpiMoc* moc) {
-        const auto found = mocKeys.find(moc);
-        return found != mocKeys.end() ? found->second : MocWrapper::getMocId(moc);
+        const std::string* key = mocKeys.find(moc);
+        return key != nullptr ? *key : MocWrapper::getMocId(moc);
+    };
+    // The parent key as one string per text: a registered class's own key,
+    // else the built key kept here, so that equal keys are the same string.
+    std::set<std::string> otherParentKeys;
+    const auto parentKey = [this, &mocKeys, &otherParentKeys](const ZefOamSpiMoc* moc) {
+        const std::string* key = mocKeys.find(moc);
+        if (key != nullptr) {
+            return key;
+        }
+        const std::string built = MocWrapper::getMocId(moc);
+        const auto registered = _mocs.find(built);
+        return registered != _mocs.end() ? &registered->first : &*otherParentKeys.insert(built).first;
     };
 
     // (parent class key, child class name) of every containment seen: one
     // parent can not tell two children of the same name apart.
-    std::set<std::pair<std::string, std::string>> children;
+    using ParentAndChild = std::pair<const std::string*, std::string_view>;
+    const auto byParentAndChild = [](const ParentAndChild& a, const ParentAndChild& b) {
+        if (a.first != b.first) {
+            return std::less<const std::string*>()(a.first, b.first);
+        }
+        return a.second < b.second;
+    };
+    std::set<ParentAndChild, decltype(byParentAndChild)> children(byParentAndChild);
     // Each chain is walked once, from the first of its members met in key
     // order (which compilation made its head).
-    std::unordered_set<const ZefOamSpiContainment*> walkedParentChains;
-    std::unordered_set<const ZefOamSpiContainment*> walkedChildChains;
+    WalkedContainments walkedParentChains(contKeys);
+    WalkedContainments walkedChildChains(contKeys);
 
     for (const auto& entry : _conts) {
         const std::string& key = entry.first;
@@ -590,23 +698,23 @@ void ModelRepository::checkConts()
 
         if (cont.childMoc == nullptr) {
             report(levelError, contWithoutChild, key.c_str());
-        } else if (!children.emplace(mocKey(cont.parentMoc), MrUtil::str(cont.childMoc->generalProperties.name))
+        } else if (!children.emplace(parentKey(cont.parentMoc), textOf(cont.childMoc->generalProperties.name))
                         .second) {
             report(levelError, sameChildNameTwice, MrUtil::str(cont.parentMoc->generalProperties.name).c_str(),
                    MrUtil::str(cont.childMoc->generalProperties.name).c_str());
         }
 
-        // The insert stops a walk at a member already walked, so a chain
+        // The mark stops a walk at a member already walked, so a chain
         // that loops back ends too.
         for (const ZefOamSpiContainment* member = &cont;
-             member != nullptr && walkedParentChains.insert(member).second;
+             member != nullptr && walkedParentChains.mark(member);
              member = member->nextContainmentSameParentMoc) {
             if (member->parentMoc != cont.parentMoc) {
                 report(levelError, parentChainBroken, key.c_str(), contKey(member).c_str());
             }
         }
         for (const ZefOamSpiContainment* member = &cont;
-             member != nullptr && walkedChildChains.insert(member).second;
+             member != nullptr && walkedChildChains.mark(member);
              member = member->nextContainmentSameChildMoc) {
             if (member->childMoc != cont.childMoc) {
                 report(levelError, childChainBroken, key.c_str(), contKey(member).c_str());
