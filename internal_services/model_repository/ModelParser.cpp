@@ -322,18 +322,24 @@ AttributeList ModelParser::attributesOf(Node& node) {
     if (!node.hasAttributes()) {
         return result;
     }
-    // attributes() hands out a new map (null for non-elements); the holder
-    // releases it, the attributes themselves stay with their element.
-    Poco::AutoPtr<Poco::XML::NamedNodeMap> attributes(node.attributes());
-    if (attributes.isNull()) {
-        return result;
+    // The attributes of an element are chained in the DOM's order. Most
+    // elements of a model carry a "name": found by name, it leads to the
+    // first of them without a map. The map that attributes() hands out is
+    // made, and released by its holder, only for an element without one.
+    Poco::AutoPtr<Poco::XML::NamedNodeMap> map;
+    Node* attr = static_cast<Poco::XML::Element&>(node).getAttributeNode("name");
+    if (attr != nullptr) {
+        while (Node* previous = attr->previousSibling()) {
+            attr = previous;
+        }
+    } else {
+        map = node.attributes();
+        attr = map->item(0);
     }
-    const unsigned long count = attributes->length();
-    result.reserve(count);
-    for (unsigned long index = 0; index < count; ++index) {
-        Attr* attr = static_cast<Attr*>(attributes->item(index));
-        ZEF_TRACE("Found attribute: %s=%s.", attr->name().c_str(), attr->value().c_str());
-        result.push_back(attr);
+    for (; attr != nullptr; attr = attr->nextSibling()) {
+        Attr* attribute = static_cast<Attr*>(attr);
+        ZEF_TRACE("Found attribute: %s=%s.", attribute->name().c_str(), attribute->value().c_str());
+        result.push_back(attribute);
     }
     return result;
 }

@@ -414,6 +414,37 @@ TEST_F(ModelParserTest, AttributesOfTracesEveryAttribute) {
     EXPECT_EQ(0u, parser.attributesOf(*firstChildOf("<a>text</a>")).size());
 }
 
+TEST_F(ModelParserTest, AttributesOfListsEveryAttributeInTheDomsOrderWhereverTheNameStands) {
+    const char* const elements[] = {
+        "<a name=\"n\" one=\"1\" two=\"2\"/>", "<a one=\"1\" name=\"n\" two=\"2\"/>",
+        "<a one=\"1\" two=\"2\" name=\"n\"/>", "<a one=\"1\" two=\"2\" three=\"3\"/>"};
+    for (const char* element : elements) {
+        Poco::XML::Node* node = loadElement(element);
+        Poco::AutoPtr<Poco::XML::NamedNodeMap> map(node->attributes());
+        const ZefModelRepositoryService::AttributeList attributes = parser.attributesOf(*node);
+        ASSERT_EQ(map->length(), attributes.size()) << element;
+        for (unsigned long i = 0; i < map->length(); ++i) {
+            EXPECT_EQ(map->item(i), attributes.begin()[i]) << element << " #" << i;
+        }
+    }
+}
+
+TEST_F(ModelParserTest, AttributesOfAnElementWithManyAttributesKeepsThemAll) {
+    std::string element = "<a";
+    for (int i = 0; i < 300; ++i) {
+        element += " x" + std::to_string(i) + "=\"" + std::to_string(i) + "\"";
+        if (i == 150) {
+            element += " name=\"n\"";
+        }
+    }
+    element += "/>";
+    const ZefModelRepositoryService::AttributeList attributes = parser.attributesOf(*loadElement(element));
+    ASSERT_EQ(301u, attributes.size());
+    EXPECT_EQ("x0", attributes.begin()[0]->name());
+    EXPECT_EQ("name", attributes.begin()[151]->name());
+    EXPECT_EQ("x299", attributes.begin()[300]->name());
+}
+
 TEST_F(ModelParserTest, CheckThrowExceptionRecordsAndLogsErrorsAndWarnings) {
     findingsHaveRules = false;
     parser.checkThrowException(3, "bad %s %d", "thing", 7);
