@@ -17,6 +17,7 @@
 #include "MoActionWrapper.h"
 #include "MomWrapper.h"
 #include "RefId.h"
+#include "ResolvedReferences.h"
 #include "StructWrapper.h"
 #include "UniDirAssociationWrapper.h"
 #include "ZefException.h"

@@ -4,6 +4,7 @@
 #include <cstdarg>
 #include <list>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <unordered_map>
@@ -32,6 +33,7 @@ class EnumWrapper;
 class MoActionWrapper;
 class MomWrapper;
 class RefId;
+class ResolvedReferences;
 class StructWrapper;
 class UniDirAssociationWrapper;
 
@@ -302,6 +304,8 @@ private:
     bool _mocsByNameValid = false;
     std::unordered_map<std::string, MomWrapper*> _qcimMomIndex;
     bool _qcimMomIndexValid = false;
+    // The targets type references were resolved to, while compileModel runs.
+    std::unique_ptr<ResolvedReferences> _resolvedReferences;
     // The pattern checks of doRegexp, within bounds; each pattern is
     // compiled once (in the checker's own process).
     PatternGuard _patterns{InputLimits::fromEnvironment()};

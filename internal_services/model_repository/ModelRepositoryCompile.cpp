@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,6 +22,7 @@
 #include "MocWrapper.h"
 #include "MomWrapper.h"
 #include "MrUtil.h"
+#include "ResolvedReferences.h"
 #include "StructWrapper.h"
 #include "ZefLog.h"
 
@@ -232,6 +234,14 @@ CompileReporter ModelRepository::compileReporter()
 void ModelRepository::compileModel()
 {
     ZEF_TRACE_ENTER(" >> ");
+    // Type references name the same targets over and over: the targets
+    // found are kept while this compilation runs, and forgotten when it
+    // ends, also by an exception.
+    _resolvedReferences.reset(new ResolvedReferences());
+    struct ForgetResolved {
+        std::unique_ptr<ResolvedReferences>& references;
+        ~ForgetResolved() { references.reset(); }
+    } forgetResolved{_resolvedReferences};
 
     ZEF_TRACE("Compiling the MOMs");
     setMomsRootMoc();

@@ -18,6 +18,7 @@
 #include "MrUtil.h"
 #include "ParameterWrapper.h"
 #include "RefId.h"
+#include "ResolvedReferences.h"
 #include "StructMemberWrapper.h"
 #include "StructWrapper.h"
 #include "TypedElementWrapper.h"
@@ -203,9 +204,11 @@ bool hasKeyExtension(const GeneralPropertiesWrapper& member)
 /// the passphrase rule; all four are parameters here.
 class TypeResolver {
 public:
+    /// `references` (null for none) keeps the targets found, across
+    /// resolvers of one compilation.
     TypeResolver(ModelRepository& repository, const CompileReporter& reporter, const char* word,
-                 const ResolutionTexts& texts)
-        : _repository(repository), _reporter(reporter), _word(word), _texts(texts)
+                 const ResolutionTexts& texts, ResolvedReferences* references)
+        : _repository(repository), _reporter(reporter), _word(word), _texts(texts), _references(references)
     {
     }
 
@@ -293,6 +296,31 @@ private:
         }
     }
 
+    /// The target found before for a reference of these texts, or null.
+    const GeneralPropertiesWrapper* findResolved(ResolvedReferences::Kind kind, const RefId& ref) const
+    {
+        return _references != nullptr ? _references->find(kind, ref) : nullptr;
+    }
+
+    void noteResolved(ResolvedReferences::Kind kind, const RefId& ref, const GeneralPropertiesWrapper* target)
+    {
+        if (_references != nullptr) {
+            _references->add(kind, ref, target);
+        }
+    }
+
+    /// Traces a reference resolved through a target found before, with the
+    /// target key built (by `keyOf`) only for the trace.
+    void traceResolved(const ResolutionText& text, const RefId& ref,
+                       std::string (*keyOf)(const char*, const char*, const char*))
+    {
+        if (CompileReporter::traceEnabled()) {
+            const std::string targetKey =
+                keyOf(ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(), ref.getRefName().c_str());
+            trace(text, targetKey.c_str());
+        }
+    }
+
     template <typename Element>
     static void setTargets(Element& element, const TypeTargets& targets)
     {
@@ -339,6 +367,15 @@ private:
             trace(_texts.anyClass, ref.getRefName().c_str());
             return;
         }
+        // A class met before cannot be the holder: that rule compares keys.
+        const auto* known = _texts.sameMoc.format == nullptr
+                                ? static_cast<const MocWrapper*>(findResolved(ResolvedReferences::Kind::Moc, ref))
+                                : nullptr;
+        if (known != nullptr) {
+            element.setReferencedMoc(&known->getStruct());
+            traceResolved(_texts.mocResolved, ref, &MocWrapper::getMocId);
+            return;
+        }
         const std::string mocKey = MocWrapper::getMocId(ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(),
                                                         ref.getRefName().c_str());
         if (mocKey.empty()) {
@@ -355,6 +392,7 @@ private:
             say(ZEF_LOG_LEVEL_ERROR, _texts.mocNotFound, mocKey.c_str());
             return;
         }
+        noteResolved(ResolvedReferences::Kind::Moc, ref, found->second);
         element.setReferencedMoc(&found->second->getStruct());
         trace(_texts.mocResolved, mocKey.c_str());
     }
@@ -364,6 +402,12 @@ private:
     {
         if (currentTargets(element).enumeration != nullptr) {
             say(ZEF_LOG_LEVEL_ERROR, _texts.enumAlreadySet);
+            return;
+        }
+        const auto* known = static_cast<const EnumWrapper*>(findResolved(ResolvedReferences::Kind::Enum, ref));
+        if (known != nullptr) {
+            setTargets(element, TypeTargets{nullptr, &known->getStruct(), nullptr, nullptr});
+            traceResolved(_texts.enumResolved, ref, &EnumWrapper::getEnumId);
             return;
         }
         const std::string enumKey = EnumWrapper::getEnumId(
@@ -378,6 +422,7 @@ private:
             say(ZEF_LOG_LEVEL_ERROR, _texts.enumNotFound, enumKey.c_str());
             return;
         }
+        noteResolved(ResolvedReferences::Kind::Enum, ref, found->second);
         setTargets(element, TypeTargets{nullptr, &found->second->getStruct(), nullptr, nullptr});
         trace(_texts.enumResolved, enumKey.c_str());
     }
@@ -389,24 +434,34 @@ private:
             say(ZEF_LOG_LEVEL_ERROR, _texts.ddtAlreadySet);
             return;
         }
-        const std::string ddtKey = DdtWrapper::getDdtId(ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(),
-                                                        ref.getRefName().c_str());
-        if (ddtKey.empty()) {
-            say(ZEF_LOG_LEVEL_ERROR, _texts.ddtNotSet);
-            return;
+        const auto* target = static_cast<const DdtWrapper*>(findResolved(ResolvedReferences::Kind::Ddt, ref));
+        std::string ddtKey;
+        if (target == nullptr) {
+            ddtKey = DdtWrapper::getDdtId(ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(),
+                                          ref.getRefName().c_str());
+            if (ddtKey.empty()) {
+                say(ZEF_LOG_LEVEL_ERROR, _texts.ddtNotSet);
+                return;
+            }
+            const ModelRepository::DdtMap& ddts = _repository.getDdtMap();
+            const auto found = ddts.find(ddtKey);
+            if (found == ddts.end()) {
+                say(ZEF_LOG_LEVEL_ERROR, _texts.ddtNotFound, ddtKey.c_str());
+                return;
+            }
+            target = found->second;
+            noteResolved(ResolvedReferences::Kind::Ddt, ref, target);
         }
-        const ModelRepository::DdtMap& ddts = _repository.getDdtMap();
-        const auto found = ddts.find(ddtKey);
-        if (found == ddts.end()) {
-            say(ZEF_LOG_LEVEL_ERROR, _texts.ddtNotFound, ddtKey.c_str());
-            return;
-        }
-        const ZefOamSpiDerivedDatatype* ddt = &found->second->getStruct();
-        if (isKey && _texts.passphraseIgnored.format != nullptr && found->second->getIsPassphrase()) {
-            ddt = passphraseSubstitute(*found->second);
+        const ZefOamSpiDerivedDatatype* ddt = &target->getStruct();
+        if (isKey && _texts.passphraseIgnored.format != nullptr && target->getIsPassphrase()) {
+            ddt = passphraseSubstitute(*target);
         }
         setTargets(element, TypeTargets{nullptr, nullptr, ddt, nullptr});
-        if (ddt != nullptr) {
+        if (ddt != nullptr && CompileReporter::traceEnabled()) {
+            if (ddtKey.empty()) {
+                ddtKey = DdtWrapper::getDdtId(ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(),
+                                              ref.getRefName().c_str());
+            }
             trace(_texts.ddtResolved, ddtKey.c_str());
         }
     }
@@ -449,6 +504,12 @@ private:
             say(ZEF_LOG_LEVEL_ERROR, _texts.structAlreadySet);
             return;
         }
+        const auto* known = static_cast<const StructWrapper*>(findResolved(ResolvedReferences::Kind::Struct, ref));
+        if (known != nullptr) {
+            setTargets(element, TypeTargets{nullptr, nullptr, nullptr, &known->getStruct()});
+            traceResolved(_texts.structResolved, ref, &StructWrapper::getStructId);
+            return;
+        }
         const std::string structKey = StructWrapper::getStructId(
             ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(), ref.getRefName().c_str());
         if (structKey.empty()) {
@@ -461,6 +522,7 @@ private:
             say(ZEF_LOG_LEVEL_ERROR, _texts.structNotFound, structKey.c_str());
             return;
         }
+        noteResolved(ResolvedReferences::Kind::Struct, ref, found->second);
         setTargets(element, TypeTargets{nullptr, nullptr, nullptr, &found->second->getStruct()});
         trace(_texts.structResolved, structKey.c_str());
     }
@@ -469,6 +531,7 @@ private:
     const CompileReporter& _reporter;
     const char* _word;
     const ResolutionTexts& _texts;
+    ResolvedReferences* _references;
     const GeneralPropertiesWrapper* _element = nullptr;
     std::string _key;
     bool _keyRead = false;
@@ -490,7 +553,7 @@ const char* memberWord(const MoActionWrapper&)
 void ModelRepository::setAttrsDataType(MocWrapper& moc)
 {
     const CompileReporter reporter = compileReporter();
-    TypeResolver resolver(*this, reporter, "Attribute", attributeTexts);
+    TypeResolver resolver(*this, reporter, "Attribute", attributeTexts, _resolvedReferences.get());
     for (AttrWrapper* attr : moc.getAttrsList()) {
         // An attribute may refer to its own class: no holder key.
         resolver.resolve(*attr, std::string(), attr->getStruct().isKey);
@@ -500,7 +563,7 @@ void ModelRepository::setAttrsDataType(MocWrapper& moc)
 void ModelRepository::setMoActionDataType(MocWrapper& moc)
 {
     const CompileReporter reporter = compileReporter();
-    TypeResolver resolver(*this, reporter, "Action", actionTexts);
+    TypeResolver resolver(*this, reporter, "Action", actionTexts, _resolvedReferences.get());
     const std::string mocKey = moc.getId();
     for (MoActionWrapper* action : moc.getMoActionList()) {
         resolver.resolve(*action, mocKey, false);
@@ -512,7 +575,7 @@ template <typename Container, typename Member>
 void ModelRepository::setMoAttributeDatatypeTpl(Container& container, Member* first)
 {
     const CompileReporter reporter = compileReporter();
-    TypeResolver resolver(*this, reporter, memberWord(container), memberTexts);
+    TypeResolver resolver(*this, reporter, memberWord(container), memberTexts, _resolvedReferences.get());
     const std::string containerKey = container.getId();
     for (Member* member = first; member != nullptr; member = member->getNext()) {
         const FindingSubject subject(*this, member);
