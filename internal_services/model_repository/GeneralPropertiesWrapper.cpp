@@ -141,10 +141,12 @@ const DomainExtensionWrapper* GeneralPropertiesWrapper::getDomainExtension(const
 
 bool GeneralPropertiesWrapper::isNillable() const
 {
-    // Asked for every attribute while compiling: the names are compared in
-    // place rather than built as strings for getDomainExtension.
+    // Asked for every attribute while compiling: the names are built once,
+    // and compared as strings, length first.
+    static const std::string domain("QCIM");
+    static const std::string name("isNillable");
     for (const DomainExtensionWrapper* extension : _domainExtensions) {
-        if (extension->getDomain() == "QCIM" && extension->getName() == "isNillable") {
+        if (extension->getDomain() == domain && extension->getName() == name) {
             return true;
         }
     }

@@ -192,7 +192,10 @@ std::pair<std::string, std::string> ownMom(const MoActionWrapper& action)
 /// marks a key member with the domain extension "QCIM"/"isKey" = "true".
 bool hasKeyExtension(const GeneralPropertiesWrapper& member)
 {
-    const DomainExtensionWrapper* isKey = member.getDomainExtension("QCIM", "isKey");
+    // Asked for every member: the names are built once.
+    static const std::string domain("QCIM");
+    static const std::string name("isKey");
+    const DomainExtensionWrapper* isKey = member.getDomainExtension(domain, name);
     return isKey != nullptr && isKey->getValue() == "true";
 }
 
@@ -341,8 +344,16 @@ private:
         }
         if (ref.getRefMomName().empty()) {
             const std::pair<std::string, std::string> mom = ownMom(element);
-            ref.setRefMomName(mom.first);
-            ref.setRefMomVersion(mom.second);
+            // The elements of one holder share their MOM: a reference
+            // completed with the same texts before lends its pooled ones.
+            if (_ownMomRef != nullptr && _ownMomRef->getRefMomName() == mom.first
+                && _ownMomRef->getRefMomVersion() == mom.second) {
+                ref.setRefMomFrom(*_ownMomRef);
+            } else {
+                ref.setRefMomName(mom.first);
+                ref.setRefMomVersion(mom.second);
+                _ownMomRef = &ref;
+            }
         }
         if (!ref.getRefMomName().empty() && ref.getRefMomVersion().empty()) {
             std::string version;
@@ -361,19 +372,21 @@ private:
             say(ZEF_LOG_LEVEL_ERROR, _texts.mocAlreadySet);
             return;
         }
-        // Any class is a class of no MOM: it is never looked up.
-        if (ref.getRefName() == anyClassName) {
-            element.setReferencedMoc(&_repository.getAnyClassMoc().getStruct());
-            trace(_texts.anyClass, ref.getRefName().c_str());
-            return;
-        }
-        // A class met before cannot be the holder: that rule compares keys.
+        // A class met before is answered first: a reference to any class
+        // is never looked up, so never kept. Kinds with the same-class rule
+        // go the long way, as that rule compares keys.
         const auto* known = _texts.sameMoc.format == nullptr
                                 ? static_cast<const MocWrapper*>(findResolved(ResolvedReferences::Kind::Moc, ref))
                                 : nullptr;
         if (known != nullptr) {
             element.setReferencedMoc(&known->getStruct());
             traceResolved(_texts.mocResolved, ref, &MocWrapper::getMocId);
+            return;
+        }
+        // Any class is a class of no MOM: it is never looked up.
+        if (ref.getRefName() == anyClassName) {
+            element.setReferencedMoc(&_repository.getAnyClassMoc().getStruct());
+            trace(_texts.anyClass, ref.getRefName().c_str());
             return;
         }
         const std::string mocKey = MocWrapper::getMocId(ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(),
@@ -532,6 +545,8 @@ private:
     const char* _word;
     const ResolutionTexts& _texts;
     ResolvedReferences* _references;
+    // The last reference that was given its element's own MOM.
+    const RefId* _ownMomRef = nullptr;
     const GeneralPropertiesWrapper* _element = nullptr;
     std::string _key;
     bool _keyRead = false;

@@ -24,6 +24,13 @@ public:
     const std::string& getRefMomName() const { return *_momName; }
     void setRefMomVersion(const std::string& momVersion) { _momVersion = &TextPool::shared(momVersion); }
     const std::string& getRefMomVersion() const { return *_momVersion; }
+    /// Takes the MOM name and version of `other`, whose texts are pooled
+    /// already.
+    void setRefMomFrom(const RefId& other)
+    {
+        _momName = other._momName;
+        _momVersion = other._momVersion;
+    }
 
     /// The target's identity key: mom name ~ mom version ~ name. Empty parts
     /// give empty segments; nothing is logged.

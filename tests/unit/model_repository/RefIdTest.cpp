@@ -80,3 +80,18 @@ TEST(RefIdTest, ReferencesToOneTargetShareTheirTexts)
     EXPECT_EQ("Mom~2~Unit", first.getRefId());
     EXPECT_EQ("Mom~2~Other", second.getRefId());
 }
+
+TEST(RefIdTest, MomOfAnotherReferenceIsTakenWithItsTexts)
+{
+    RefId source;
+    source.setRefName("S");
+    source.setRefMomName("m");
+    source.setRefMomVersion("1.0");
+    RefId ref;
+    ref.setRefName("C");
+    ref.setRefMomFrom(source);
+    EXPECT_EQ("C", ref.getRefName());
+    EXPECT_EQ(&source.getRefMomName(), &ref.getRefMomName());
+    EXPECT_EQ(&source.getRefMomVersion(), &ref.getRefMomVersion());
+    EXPECT_EQ("m~1.0~C", ref.getRefId());
+}
