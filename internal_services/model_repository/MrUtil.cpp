@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "TextArena.h"
 #include "ZefLog.h"
 
 namespace ZefModelRepositoryService {
@@ -44,14 +45,12 @@ ZefReturnT toDouble(const std::string& text, double& out)
 
 char* toChar(const std::string& text)
 {
-    char* copy = new char[text.size() + 1];
-    std::memcpy(copy, text.c_str(), text.size() + 1);
-    return copy;
+    return TextArena::copy(text.data(), text.size());
 }
 
 void freeString(char*& field)
 {
-    delete[] field;
+    TextArena::release(field);
     field = nullptr;
 }
 

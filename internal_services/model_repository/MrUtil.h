@@ -93,12 +93,12 @@ ZefReturnT toUInt64(const std::string& text, uint64_t& out);
 /// finite double. `out` is only written on success. Never logs.
 ZefReturnT toDouble(const std::string& text, double& out);
 
-/// A new char array holding a copy of text with its terminator; the caller
-/// frees it with delete[].
+/// A new C string holding a copy of text (see TextArena); the caller frees
+/// it with freeString.
 char* toChar(const std::string& text);
 
-/// A new char array holding the value formatted by operator<<; the caller
-/// frees it with delete[].
+/// A new C string holding the value formatted by operator<<; the caller
+/// frees it with freeString.
 template <typename T>
 char* toCharTpl(const T& value)
 {
@@ -107,7 +107,7 @@ char* toCharTpl(const T& value)
     return toChar(stream.str());
 }
 
-/// Frees a string of a record (delete[]) and sets it to null.
+/// Frees a string of a record that toChar made and sets it to null.
 void freeString(char*& field);
 
 /// Converts text with toInt16 into range.min and sets isSet. A text that does

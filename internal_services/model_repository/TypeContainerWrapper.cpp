@@ -35,8 +35,9 @@ TypeContainerWrapper::TypeContainerWrapper(const AttrWrapper* attr)
 
 TypeContainerWrapper::~TypeContainerWrapper()
 {
-    for (size_t i = 0; i < defaultValueCount(); ++i) {
-        delete[] _defaultValues[i];
+    const size_t count = defaultValueCount();
+    for (size_t i = 0; i < count; ++i) {
+        MrUtil::freeString(_defaultValues[i]);
     }
     delete[] _defaultValues;
 }

@@ -186,23 +186,24 @@ TEST(MrUtilTest, ToCharCopiesWithTerminator)
     char* copy = MrUtil::toChar(text);
     EXPECT_STREQ("abc", copy);
     EXPECT_NE(text.c_str(), copy);
-    delete[] copy;
+    MrUtil::freeString(copy);
+    EXPECT_EQ(nullptr, copy);
     char* empty = MrUtil::toChar("");
     EXPECT_STREQ("", empty);
-    delete[] empty;
+    MrUtil::freeString(empty);
 }
 
 TEST(MrUtilTest, ToCharTplFormatsStreamableValues)
 {
     char* number = MrUtil::toCharTpl(-42);
     EXPECT_STREQ("-42", number);
-    delete[] number;
+    MrUtil::freeString(number);
     char* real = MrUtil::toCharTpl(2.5);
     EXPECT_STREQ("2.5", real);
-    delete[] real;
+    MrUtil::freeString(real);
     char* text = MrUtil::toCharTpl(std::string("x y"));
     EXPECT_STREQ("x y", text);
-    delete[] text;
+    MrUtil::freeString(text);
 }
 
 TEST(MrUtilTest, SetMinHlpStoresConvertedValueSilently)

@@ -1,0 +1,135 @@
+#include "TextArena.h"
+
+#include <cstring>
+#include <mutex>
+#include <new>
+
+namespace ZefModelRepositoryService {
+
+namespace {
+
+// g++ names an AddressSanitizer build with a macro, clang with a feature.
+#if defined(__SANITIZE_ADDRESS__)
+const bool kBypass = true;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+const bool kBypass = true;
+#else
+const bool kBypass = false;
+#endif
+#else
+const bool kBypass = false;
+#endif
+
+const std::size_t kChunkSize = 64 * 1024;
+// A string longer than this gets a chunk of its own, so that the shared
+// chunks are not left part-used by one long text.
+const std::size_t kLongString = kChunkSize / 8;
+
+struct Chunk {
+    std::size_t live;  // strings cut from this chunk and not yet released
+    std::size_t size;  // of the whole chunk, header included
+};
+
+// The word in front of each string: the chunk it was cut from. Strings
+// need no alignment, so the word is read and written byte by byte.
+const std::size_t kBackLink = sizeof(Chunk*);
+
+struct Arena {
+    std::mutex lock;
+    Chunk* current = nullptr;
+    char* cutFrom = nullptr;
+    char* cutEnd = nullptr;
+    std::size_t reserved = 0;
+};
+
+// Never destroyed: records may release their strings after any static
+// destructor has run.
+Arena& arena() {
+    static Arena* const instance = new Arena();
+    return *instance;
+}
+
+Chunk* newChunk(Arena& texts, std::size_t size) {
+    Chunk* chunk = static_cast<Chunk*>(::operator new(size));
+    chunk->live = 0;
+    chunk->size = size;
+    texts.reserved += size;
+    return chunk;
+}
+
+void freeChunk(Arena& texts, Chunk* chunk) {
+    texts.reserved -= chunk->size;
+    ::operator delete(chunk);
+}
+
+char* cut(Chunk* chunk, char* at, const char* text, std::size_t length) {
+    std::memcpy(at, &chunk, kBackLink);
+    char* copy = at + kBackLink;
+    std::memcpy(copy, text, length);
+    copy[length] = '\0';
+    ++chunk->live;
+    return copy;
+}
+
+} // namespace
+
+char* TextArena::copy(const char* text, std::size_t length) {
+    if (kBypass) {
+        char* copy = new char[length + 1];
+        std::memcpy(copy, text, length);
+        copy[length] = '\0';
+        return copy;
+    }
+    const std::size_t need = kBackLink + length + 1;
+    Arena& texts = arena();
+    std::lock_guard<std::mutex> guard(texts.lock);
+    if (length > kLongString) {
+        Chunk* own = newChunk(texts, sizeof(Chunk) + need);
+        return cut(own, reinterpret_cast<char*>(own + 1), text, length);
+    }
+    if (texts.current == nullptr || static_cast<std::size_t>(texts.cutEnd - texts.cutFrom) < need) {
+        // The chunk that stops being current goes now if nothing in it is
+        // in use any more; otherwise with its last string.
+        if (texts.current != nullptr && texts.current->live == 0) {
+            freeChunk(texts, texts.current);
+        }
+        texts.current = newChunk(texts, kChunkSize);
+        texts.cutFrom = reinterpret_cast<char*>(texts.current + 1);
+        texts.cutEnd = reinterpret_cast<char*>(texts.current) + kChunkSize;
+    }
+    char* copy = cut(texts.current, texts.cutFrom, text, length);
+    texts.cutFrom += need;
+    return copy;
+}
+
+void TextArena::release(char* text) noexcept {
+    if (text == nullptr) {
+        return;
+    }
+    if (kBypass) {
+        delete[] text;
+        return;
+    }
+    Chunk* chunk;
+    std::memcpy(&chunk, text - kBackLink, kBackLink);
+    Arena& texts = arena();
+    std::lock_guard<std::mutex> guard(texts.lock);
+    if (--chunk->live > 0) {
+        return;
+    }
+    if (chunk == texts.current) {
+        // Empty but current: cut from its start again.
+        texts.cutFrom = reinterpret_cast<char*>(chunk + 1);
+        return;
+    }
+    freeChunk(texts, chunk);
+}
+
+std::size_t TextArena::reservedBytes() {
+    Arena& texts = arena();
+    std::lock_guard<std::mutex> guard(texts.lock);
+    return texts.reserved;
+}
+
+} // namespace ZefModelRepositoryService
