@@ -484,6 +484,7 @@ const std::vector<MocWrapper*>& ModelRepository::mocsNamed(const std::string& mo
     // first use answers every lookup by plain name in key order.
     if (!_mocsByNameValid) {
         _mocsByName.clear();
+        _mocsByName.reserve(_mocs.size());
         for (const auto& entry : _mocs) {
             _mocsByName[nameOf(entry.second->getStruct().generalProperties)].push_back(entry.second);
         }

@@ -333,6 +333,27 @@ private:
         element.setStructDatatype(targets.structure);
     }
 
+    /// ModelRepository::translateMimName, remembering a MOM name that is no
+    /// modelling-standard name (most are not), so that it is looked up once.
+    void translateMomName(RefId& ref)
+    {
+        if (_references == nullptr) {
+            _repository.translateMimName(ref);
+            return;
+        }
+        if (_references->isPlainMomName(ref.getRefMomName())) {
+            return;
+        }
+        std::string mimName;
+        std::string mimVersion;
+        if (_repository.getMimInfoFromQcimName(ref.getRefMomName(), mimName, mimVersion)) {
+            ref.setRefMomName(mimName);
+            ref.setRefMomVersion(mimVersion);
+        } else {
+            _references->addPlainMomName(ref.getRefMomName());
+        }
+    }
+
     /// Gives the reference its MOM: a modelling-standard MOM name becomes
     /// the MOM's own name and version, no MOM name means the element's own
     /// MOM, and a missing version is the one of the only MOM of that name.
@@ -340,7 +361,7 @@ private:
     void completeReference(const Element& element, RefId& ref)
     {
         if (!ref.getRefMomName().empty()) {
-            _repository.translateMimName(ref);
+            translateMomName(ref);
         }
         if (ref.getRefMomName().empty()) {
             const std::pair<std::string, std::string> mom = ownMom(element);

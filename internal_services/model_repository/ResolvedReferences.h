@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace ZefModelRepositoryService {
 
@@ -27,6 +28,12 @@ public:
     /// Notes that `ref` was resolved to `target` in the registry of `kind`.
     void add(Kind kind, const RefId& ref, const GeneralPropertiesWrapper* target);
 
+    /// True when the pooled MOM name `momName` was noted as plain: no MOM
+    /// has it as its modelling-standard name.
+    bool isPlainMomName(const std::string& momName) const { return _plainMomNames.count(&momName) != 0; }
+    /// Notes the pooled MOM name `momName` as plain.
+    void addPlainMomName(const std::string& momName) { _plainMomNames.insert(&momName); }
+
 private:
     struct Key {
         Kind kind;
@@ -45,6 +52,7 @@ private:
     static Key keyOf(Kind kind, const RefId& ref);
 
     std::unordered_map<Key, const GeneralPropertiesWrapper*, KeyHash> _targets;
+    std::unordered_set<const std::string*> _plainMomNames;
 };
 
 } // namespace ZefModelRepositoryService

@@ -58,3 +58,13 @@ TEST(ResolvedReferencesTest, TheFirstTargetOfAReferenceStays)
     references.add(ResolvedReferences::Kind::Moc, reference("C", "m", "1.0"), &second);
     EXPECT_EQ(&first, references.find(ResolvedReferences::Kind::Moc, reference("C", "m", "1.0")));
 }
+
+TEST(ResolvedReferencesTest, PlainMomNamesAreKnownByTheirPooledText)
+{
+    ResolvedReferences references;
+    const RefId ref = reference("C", "m", "1.0");
+    EXPECT_FALSE(references.isPlainMomName(ref.getRefMomName()));
+    references.addPlainMomName(ref.getRefMomName());
+    EXPECT_TRUE(references.isPlainMomName(reference("D", "m", "2.0").getRefMomName()));
+    EXPECT_FALSE(references.isPlainMomName(reference("C", "n", "1.0").getRefMomName()));
+}
