@@ -209,17 +209,20 @@ class TypeResolver {
 public:
     /// `references` (null for none) keeps the targets found, across
     /// resolvers of one compilation.
+    /// `holder` (null for none) is the record whose key the same-class rule
+    /// compares a class reference with.
     TypeResolver(ModelRepository& repository, const CompileReporter& reporter, const char* word,
-                 const ResolutionTexts& texts, ResolvedReferences* references)
-        : _repository(repository), _reporter(reporter), _word(word), _texts(texts), _references(references)
+                 const ResolutionTexts& texts, ResolvedReferences* references,
+                 const GeneralPropertiesWrapper* holder)
+        : _repository(repository), _reporter(reporter), _word(word), _texts(texts), _references(references),
+          _holder(holder)
     {
     }
 
-    /// Resolves `element`, known under its identity key. `holderKey` is the
-    /// key the same-class rule compares a class reference with; `isKey`
-    /// applies the passphrase rule to a passphrase type.
+    /// Resolves `element`, known under its identity key; `isKey` applies
+    /// the passphrase rule to a passphrase type.
     template <typename Element>
-    void resolve(Element& element, const std::string& holderKey, bool isKey)
+    void resolve(Element& element, bool isKey)
     {
         // The key is only read for a text: most elements have a basic type
         // and, below the trace level, produce none.
@@ -230,7 +233,7 @@ public:
         switch (type) {
         case ZefMrType3Reference:
             completeReference(element, ref);
-            resolveMoc(element, ref, holderKey);
+            resolveMoc(element, ref);
             break;
         case ZefMrType3Enum:
             completeReference(element, ref);
@@ -266,6 +269,17 @@ public:
     }
 
 private:
+    /// The key of the holder, read on first use: most elements refer to no
+    /// class. Empty without a holder.
+    const std::string& holderKey()
+    {
+        if (!_holderKeyRead) {
+            _holderKey = _holder != nullptr ? _holder->getId() : std::string();
+            _holderKeyRead = true;
+        }
+        return _holderKey;
+    }
+
     /// The identity key of the element being resolved, read once.
     const std::string& key()
     {
@@ -387,7 +401,7 @@ private:
     }
 
     template <typename Element>
-    void resolveMoc(Element& element, const RefId& ref, const std::string& holderKey)
+    void resolveMoc(Element& element, const RefId& ref)
     {
         if (currentTargets(element).referencedMoc != nullptr) {
             say(ZEF_LOG_LEVEL_ERROR, _texts.mocAlreadySet);
@@ -416,7 +430,7 @@ private:
             say(ZEF_LOG_LEVEL_ERROR, _texts.mocNotSet);
             return;
         }
-        if (_texts.sameMoc.format != nullptr && mocKey == holderKey) {
+        if (_texts.sameMoc.format != nullptr && mocKey == holderKey()) {
             say(ZEF_LOG_LEVEL_ERROR, _texts.sameMoc, mocKey.c_str());
             return;
         }
@@ -566,6 +580,9 @@ private:
     const char* _word;
     const ResolutionTexts& _texts;
     ResolvedReferences* _references;
+    const GeneralPropertiesWrapper* _holder;
+    std::string _holderKey;
+    bool _holderKeyRead = false;
     // The last reference that was given its element's own MOM.
     const RefId* _ownMomRef = nullptr;
     const GeneralPropertiesWrapper* _element = nullptr;
@@ -589,20 +606,19 @@ const char* memberWord(const MoActionWrapper&)
 void ModelRepository::setAttrsDataType(MocWrapper& moc)
 {
     const CompileReporter reporter = compileReporter();
-    TypeResolver resolver(*this, reporter, "Attribute", attributeTexts, _resolvedReferences.get());
+    // An attribute may refer to its own class: no holder.
+    TypeResolver resolver(*this, reporter, "Attribute", attributeTexts, _resolvedReferences.get(), nullptr);
     for (AttrWrapper* attr : moc.getAttrsList()) {
-        // An attribute may refer to its own class: no holder key.
-        resolver.resolve(*attr, std::string(), attr->getStruct().isKey);
+        resolver.resolve(*attr, attr->getStruct().isKey);
     }
 }
 
 void ModelRepository::setMoActionDataType(MocWrapper& moc)
 {
     const CompileReporter reporter = compileReporter();
-    TypeResolver resolver(*this, reporter, "Action", actionTexts, _resolvedReferences.get());
-    const std::string mocKey = moc.getId();
+    TypeResolver resolver(*this, reporter, "Action", actionTexts, _resolvedReferences.get(), &moc);
     for (MoActionWrapper* action : moc.getMoActionList()) {
-        resolver.resolve(*action, mocKey, false);
+        resolver.resolve(*action, false);
         setMoAttributeDatatypeTpl(*action, action->getParameterListFront());
     }
 }
@@ -611,11 +627,11 @@ template <typename Container, typename Member>
 void ModelRepository::setMoAttributeDatatypeTpl(Container& container, Member* first)
 {
     const CompileReporter reporter = compileReporter();
-    TypeResolver resolver(*this, reporter, memberWord(container), memberTexts, _resolvedReferences.get());
-    const std::string containerKey = container.getId();
+    TypeResolver resolver(*this, reporter, memberWord(container), memberTexts, _resolvedReferences.get(),
+                          &container);
     for (Member* member = first; member != nullptr; member = member->getNext()) {
         const FindingSubject subject(*this, member);
-        resolver.resolve(*member, containerKey, hasKeyExtension(*member));
+        resolver.resolve(*member, hasKeyExtension(*member));
     }
 }
 
