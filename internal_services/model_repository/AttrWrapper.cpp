@@ -81,7 +81,11 @@ std::string AttrWrapper::getAttrId(const ZefOamSpiMoAttribute* attr)
 std::string AttrWrapper::getId() const
 {
     if (_id.empty()) {
-        _id.set(getAttrId(&_attr));
+        // The key just built is handed back as it is: the copy kept serves
+        // every later call.
+        std::string id = getAttrId(&_attr);
+        _id.set(id);
+        return id;
     }
     return _id.str();
 }

@@ -66,7 +66,11 @@ std::string MoActionWrapper::getMoActionId(const ZefOamSpiMoAction* action)
 std::string MoActionWrapper::getId() const
 {
     if (_id.empty()) {
-        _id.set(getMoActionId(&_action));
+        // The key just built is handed back as it is: the copy kept serves
+        // every later call.
+        std::string id = getMoActionId(&_action);
+        _id.set(id);
+        return id;
     }
     return _id.str();
 }

@@ -26,7 +26,7 @@ public:
     /// When no file of that name exists the argument itself is parsed as XML
     /// text, so a document can also be handed over in a string.
     /// The file is read into memory and parsed from there; the text goes
-    /// through the guard filters of the reading chain (nesting depth, entity
+    /// through the guard filter of the reading chain (nesting depth, entity
     /// expansion, DOM name pool) in the same pass that builds the DOM.
     /// Throws ZefException with "<fileName> is not a file" or "<fileName> is
     /// not readable", with the reader's own text for malformed XML, and with
