@@ -3,6 +3,8 @@
 #include <mutex>
 #include <new>
 
+#include "PoolLock.h"
+
 namespace ZefModelRepositoryService {
 
 namespace {
@@ -71,7 +73,7 @@ void* RecordPool::allocate(std::size_t size)
     const std::size_t sizeClass = classOf(size);
     const std::size_t blockSize = (sizeClass + 1) * kGranule;
     Pool& blocks = pool();
-    std::lock_guard<std::mutex> guard(blocks.lock);
+    PoolLock guard(blocks.lock);
     if (FreeBlock* block = blocks.freeBlocks[sizeClass]) {
         blocks.freeBlocks[sizeClass] = block->next;
         return block;
@@ -103,7 +105,7 @@ void RecordPool::release(void* block, std::size_t size) noexcept
     }
     const std::size_t sizeClass = classOf(size);
     Pool& blocks = pool();
-    std::lock_guard<std::mutex> guard(blocks.lock);
+    PoolLock guard(blocks.lock);
     FreeBlock* freed = static_cast<FreeBlock*>(block);
     freed->next = blocks.freeBlocks[sizeClass];
     blocks.freeBlocks[sizeClass] = freed;
@@ -112,7 +114,7 @@ void RecordPool::release(void* block, std::size_t size) noexcept
 std::size_t RecordPool::reservedBytes()
 {
     Pool& blocks = pool();
-    std::lock_guard<std::mutex> guard(blocks.lock);
+    PoolLock guard(blocks.lock);
     return blocks.reserved;
 }
 

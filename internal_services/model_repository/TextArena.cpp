@@ -4,6 +4,8 @@
 #include <mutex>
 #include <new>
 
+#include "PoolLock.h"
+
 namespace ZefModelRepositoryService {
 
 namespace {
@@ -83,7 +85,7 @@ char* TextArena::copy(const char* text, std::size_t length) {
     }
     const std::size_t need = kBackLink + length + 1;
     Arena& texts = arena();
-    std::lock_guard<std::mutex> guard(texts.lock);
+    PoolLock guard(texts.lock);
     if (length > kLongString) {
         Chunk* own = newChunk(texts, sizeof(Chunk) + need);
         return cut(own, reinterpret_cast<char*>(own + 1), text, length);
@@ -114,7 +116,7 @@ void TextArena::release(char* text) noexcept {
     Chunk* chunk;
     std::memcpy(&chunk, text - kBackLink, kBackLink);
     Arena& texts = arena();
-    std::lock_guard<std::mutex> guard(texts.lock);
+    PoolLock guard(texts.lock);
     if (--chunk->live > 0) {
         return;
     }
@@ -128,7 +130,7 @@ void TextArena::release(char* text) noexcept {
 
 std::size_t TextArena::reservedBytes() {
     Arena& texts = arena();
-    std::lock_guard<std::mutex> guard(texts.lock);
+    PoolLock guard(texts.lock);
     return texts.reserved;
 }
 

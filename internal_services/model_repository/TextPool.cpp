@@ -5,6 +5,8 @@
 #include <mutex>
 #include <vector>
 
+#include "PoolLock.h"
+
 namespace ZefModelRepositoryService {
 
 namespace {
@@ -23,7 +25,7 @@ public:
 
     const std::string& shared(const std::string& text) {
         const std::size_t hash = std::hash<std::string>()(text);
-        std::lock_guard<std::mutex> guard(_lock);
+        PoolLock guard(_lock);
         std::size_t at = hash & (_slots.size() - 1);
         for (; _slots[at].text != nullptr; at = (at + 1) & (_slots.size() - 1)) {
             if (_slots[at].hash == hash && *_slots[at].text == text) {
