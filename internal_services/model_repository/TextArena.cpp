@@ -1,5 +1,7 @@
 #include "TextArena.h"
 
+#include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <mutex>
 #include <new>
@@ -23,9 +25,14 @@ const bool kBypass = false;
 const bool kBypass = false;
 #endif
 
+// Every chunk begins at a multiple of its size, so the chunk of a string
+// is its address with the low bits cleared: releasing a string reads only
+// its chunk's header, which the strings cut from it share, and never the
+// string itself.
 const std::size_t kChunkSize = 64 * 1024;
 // A string longer than this gets a chunk of its own, so that the shared
-// chunks are not left part-used by one long text.
+// chunks are not left part-used by one long text. Such a chunk is aligned
+// the same way but only as large as its string.
 const std::size_t kLongString = kChunkSize / 8;
 
 struct Chunk {
@@ -33,9 +40,10 @@ struct Chunk {
     std::size_t size;  // of the whole chunk, header included
 };
 
-// The word in front of each string: the chunk it was cut from. Strings
-// need no alignment, so the word is read and written byte by byte.
-const std::size_t kBackLink = sizeof(Chunk*);
+Chunk* chunkOf(const char* text) {
+    return reinterpret_cast<Chunk*>(reinterpret_cast<std::uintptr_t>(text) &
+                                    ~static_cast<std::uintptr_t>(kChunkSize - 1));
+}
 
 struct Arena {
     std::mutex lock;
@@ -53,7 +61,11 @@ Arena& arena() {
 }
 
 Chunk* newChunk(Arena& texts, std::size_t size) {
-    Chunk* chunk = static_cast<Chunk*>(::operator new(size));
+    void* block = nullptr;
+    if (::posix_memalign(&block, kChunkSize, size) != 0) {
+        throw std::bad_alloc();
+    }
+    Chunk* chunk = static_cast<Chunk*>(block);
     chunk->live = 0;
     chunk->size = size;
     texts.reserved += size;
@@ -62,12 +74,10 @@ Chunk* newChunk(Arena& texts, std::size_t size) {
 
 void freeChunk(Arena& texts, Chunk* chunk) {
     texts.reserved -= chunk->size;
-    ::operator delete(chunk);
+    std::free(chunk);
 }
 
-char* cut(Chunk* chunk, char* at, const char* text, std::size_t length) {
-    std::memcpy(at, &chunk, kBackLink);
-    char* copy = at + kBackLink;
+char* cut(Chunk* chunk, char* copy, const char* text, std::size_t length) {
     std::memcpy(copy, text, length);
     copy[length] = '\0';
     ++chunk->live;
@@ -83,7 +93,7 @@ char* TextArena::copy(const char* text, std::size_t length) {
         copy[length] = '\0';
         return copy;
     }
-    const std::size_t need = kBackLink + length + 1;
+    const std::size_t need = length + 1;
     Arena& texts = arena();
     PoolLock guard(texts.lock);
     if (length > kLongString) {
@@ -113,8 +123,7 @@ void TextArena::release(char* text) noexcept {
         delete[] text;
         return;
     }
-    Chunk* chunk;
-    std::memcpy(&chunk, text - kBackLink, kBackLink);
+    Chunk* chunk = chunkOf(text);
     Arena& texts = arena();
     PoolLock guard(texts.lock);
     if (--chunk->live > 0) {

@@ -7,10 +7,10 @@ namespace ZefModelRepositoryService {
 
 /// Storage for the C strings of the element records (names, descriptions,
 /// default values, ...), of which a large model has hundreds of thousands.
-/// Strings are cut one after the other from large chunks, each behind a
-/// word that names its chunk, instead of one heap block each: a short
-/// string then costs its length and a word, not a heap block's header and
-/// rounding, and releasing it only counts down its chunk. A chunk goes back
+/// Strings are cut one after the other from large chunks aligned to their
+/// size, instead of one heap block each: a short string then costs its
+/// length, not a heap block's header and rounding, and releasing it only
+/// counts down the chunk its address falls in. A chunk goes back
 /// to the heap once its last string is released (a long string has a chunk
 /// of its own), so a repository that is emptied and loaded again reuses the
 /// memory.
