@@ -78,10 +78,12 @@ bool XmlGuardFilter::admitElement(const Poco::XML::Attributes& attributes) {
         refuse("elements nested deeper than " + std::to_string(_maxDepth) + " levels (ZEF_VALIDATOR_MAX_DEPTH)");
         return false;
     }
-    const int count = attributes.getLength();
-    for (int i = 0; i < count; ++i) {
-        if (!produce(attributes.getValue(i).size())) {
-            return false;
+    if (_hasDocumentType) {
+        const int count = attributes.getLength();
+        for (int i = 0; i < count; ++i) {
+            if (!produce(attributes.getValue(i).size())) {
+                return false;
+            }
         }
     }
     return true;
@@ -148,13 +150,13 @@ void XmlGuardFilter::endElement(const XMLString& uri, const XMLString& localName
 }
 
 void XmlGuardFilter::characters(const XMLChar ch[], int start, int length) {
-    if (!stopped() && produce(lengthOf(length))) {
+    if (!stopped() && (!_hasDocumentType || produce(lengthOf(length)))) {
         WhitespaceFilter::characters(ch, start, length);
     }
 }
 
 void XmlGuardFilter::ignorableWhitespace(const XMLChar ch[], int start, int length) {
-    if (!stopped() && produce(lengthOf(length))) {
+    if (!stopped() && (!_hasDocumentType || produce(lengthOf(length)))) {
         WhitespaceFilter::ignorableWhitespace(ch, start, length);
     }
 }
@@ -199,6 +201,7 @@ void XmlGuardFilter::unparsedEntityDecl(const XMLString& name, const XMLString* 
 // ---- lexical events ----------------------------------------------------------------
 
 void XmlGuardFilter::startDTD(const XMLString& name, const XMLString& publicId, const XMLString& systemId) {
+    _hasDocumentType = true;
     if (!stopped()) {
         WhitespaceFilter::startDTD(name, publicId, systemId);
     }

@@ -140,6 +140,10 @@ private:
     std::uint64_t _maxDepth;
     std::uint64_t _depth = 0;
 
+    // Only a document type declares entities and attribute defaults: without
+    // one the text a document produces cannot pass the output limit, and
+    // is not counted.
+    bool _hasDocumentType = false;
     std::uint64_t _expansionLimit;
     std::uint64_t _outputLimit;
     std::uint64_t _produced = 0;
