@@ -1,8 +1,6 @@
 #include "CachedKey.h"
 
-#include <cstring>
-
-#include "RecordPool.h"
+#include "TextArena.h"
 
 namespace ZefModelRepositoryService {
 
@@ -17,19 +15,15 @@ void CachedKey::set(const std::string& key)
     if (key.empty()) {
         return;
     }
-    // Keys never hold a NUL: they are joined from C strings, so the
-    // terminator tells the block size again at release.
-    char* text = static_cast<char*>(RecordPool::allocate(key.size() + 1));
-    std::memcpy(text, key.c_str(), key.size() + 1);
-    _text = text;
+    _text = TextArena::copy(key.data(), key.size());
 }
 
 void CachedKey::release()
 {
-    if (_text != nullptr) {
-        RecordPool::release(_text, std::strlen(_text) + 1);
-        _text = nullptr;
-    }
+    // The arena finds the key's chunk from its address: the key itself is
+    // not read again.
+    TextArena::release(_text);
+    _text = nullptr;
 }
 
 } // namespace ZefModelRepositoryService

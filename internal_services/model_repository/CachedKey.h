@@ -29,8 +29,7 @@ public:
 private:
     void release();
 
-    /// From the record pool, as the record itself: a key's length gives its
-    /// block size.
+    /// From the text arena, as the records' other strings.
     char* _text = nullptr;
 };
 

@@ -45,12 +45,20 @@ Chunk* chunkOf(const char* text) {
                                     ~static_cast<std::uintptr_t>(kChunkSize - 1));
 }
 
+// Shared chunks are cut from batches of this many, each one aligned
+// block from the heap, and kept for later strings once they are empty.
+const std::size_t kChunksPerBatch = 16;
+
 struct Arena {
     std::mutex lock;
     Chunk* current = nullptr;
     char* cutFrom = nullptr;
     char* cutEnd = nullptr;
     std::size_t reserved = 0;
+    // Empty shared chunks, linked through their first word.
+    Chunk* spare = nullptr;
+    char* batchFrom = nullptr;
+    char* batchEnd = nullptr;
 };
 
 // Never destroyed: records may release their strings after any static
@@ -60,12 +68,32 @@ Arena& arena() {
     return *instance;
 }
 
-Chunk* newChunk(Arena& texts, std::size_t size) {
+void* alignedBlock(std::size_t size) {
     void* block = nullptr;
     if (::posix_memalign(&block, kChunkSize, size) != 0) {
         throw std::bad_alloc();
     }
-    Chunk* chunk = static_cast<Chunk*>(block);
+    return block;
+}
+
+void* sharedChunk(Arena& texts) {
+    if (texts.spare != nullptr) {
+        Chunk* chunk = texts.spare;
+        std::memcpy(&texts.spare, chunk, sizeof(Chunk*));
+        return chunk;
+    }
+    if (texts.batchFrom == texts.batchEnd) {
+        texts.batchFrom = static_cast<char*>(alignedBlock(kChunksPerBatch * kChunkSize));
+        texts.batchEnd = texts.batchFrom + kChunksPerBatch * kChunkSize;
+    }
+    void* chunk = texts.batchFrom;
+    texts.batchFrom += kChunkSize;
+    return chunk;
+}
+
+// A shared chunk, or for a long string a block of `size` bytes of its own.
+Chunk* newChunk(Arena& texts, std::size_t size) {
+    Chunk* chunk = static_cast<Chunk*>(size == kChunkSize ? sharedChunk(texts) : alignedBlock(size));
     chunk->live = 0;
     chunk->size = size;
     texts.reserved += size;
@@ -74,7 +102,12 @@ Chunk* newChunk(Arena& texts, std::size_t size) {
 
 void freeChunk(Arena& texts, Chunk* chunk) {
     texts.reserved -= chunk->size;
-    std::free(chunk);
+    if (chunk->size == kChunkSize) {
+        std::memcpy(chunk, &texts.spare, sizeof(Chunk*));
+        texts.spare = chunk;
+    } else {
+        std::free(chunk);
+    }
 }
 
 char* cut(Chunk* chunk, char* copy, const char* text, std::size_t length) {

@@ -10,10 +10,10 @@ namespace ZefModelRepositoryService {
 /// Strings are cut one after the other from large chunks aligned to their
 /// size, instead of one heap block each: a short string then costs its
 /// length, not a heap block's header and rounding, and releasing it only
-/// counts down the chunk its address falls in. A chunk goes back
-/// to the heap once its last string is released (a long string has a chunk
-/// of its own), so a repository that is emptied and loaded again reuses the
-/// memory.
+/// counts down the chunk its address falls in. A chunk serves later
+/// strings once its last string is released (a long string has a chunk of
+/// its own, which goes back to the heap), so a repository that is emptied
+/// and loaded again reuses the memory.
 ///
 /// Thread-safe. In a build with AddressSanitizer every string is a heap
 /// block of its own, so that the sanitizer sees each one.
@@ -26,7 +26,8 @@ public:
     /// Gives back a string that copy() returned; null is ignored.
     static void release(char* text) noexcept;
 
-    /// Bytes held in chunks (0 in a build that bypasses the arena).
+    /// Bytes in the chunks that hold strings (0 in a build that bypasses the
+    /// arena).
     static std::size_t reservedBytes();
 };
 
