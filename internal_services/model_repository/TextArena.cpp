@@ -5,6 +5,7 @@
 #include <cstring>
 #include <mutex>
 #include <new>
+#include <vector>
 
 #include "PoolLock.h"
 
@@ -59,6 +60,9 @@ struct Arena {
     Chunk* spare = nullptr;
     char* batchFrom = nullptr;
     char* batchEnd = nullptr;
+    // Every batch, kept for the life of the process; this also tells a
+    // leak checker that the chunks inside them are held.
+    std::vector<void*> batches;
 };
 
 // Never destroyed: records may release their strings after any static
@@ -83,8 +87,10 @@ void* sharedChunk(Arena& texts) {
         return chunk;
     }
     if (texts.batchFrom == texts.batchEnd) {
+        texts.batches.reserve(texts.batches.size() + 1);
         texts.batchFrom = static_cast<char*>(alignedBlock(kChunksPerBatch * kChunkSize));
         texts.batchEnd = texts.batchFrom + kChunksPerBatch * kChunkSize;
+        texts.batches.push_back(texts.batchFrom);
     }
     void* chunk = texts.batchFrom;
     texts.batchFrom += kChunkSize;
