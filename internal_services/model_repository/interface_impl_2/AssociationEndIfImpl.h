@@ -15,7 +15,7 @@ class AssociationEndWrapper;
 ///
 /// Link getters answer ZefNotFound, with the out value unchanged, when there
 /// is no such record; value getters copy a field and never fail.
-class AssociationEndIfImpl : public BaseIf2Impl {
+class AssociationEndIfImpl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up Association End [%s]";
 

@@ -17,7 +17,7 @@ class AttrWrapper;
 ///
 /// Link getters answer ZefNotFound, with the out value unchanged, when there
 /// is no such record; value getters copy a field and never fail.
-class AttributeIf2Impl : public BaseIf2Impl {
+class AttributeIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up Attribute [%s]";
 

@@ -16,7 +16,7 @@ class BiDirAssociationWrapper;
 ///
 /// Link getters answer ZefNotFound, with the out value unchanged, when there
 /// is no such record; value getters copy a field and never fail.
-class BidirectionalAssociationIfImpl : public BaseIf2Impl {
+class BidirectionalAssociationIfImpl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up Bidirectional Association [%s]";
 

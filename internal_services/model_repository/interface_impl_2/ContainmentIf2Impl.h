@@ -17,7 +17,7 @@ class ContWrapper;
 ///
 /// Link getters answer ZefNotFound, with the out value unchanged, when there
 /// is no such record; value getters copy a field and never fail.
-class ContainmentIf2Impl : public BaseIf2Impl {
+class ContainmentIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up Containment [%s]";
 

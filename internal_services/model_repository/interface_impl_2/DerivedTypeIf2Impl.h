@@ -20,7 +20,7 @@ class DdtWrapper;
 ///
 /// Link getters answer ZefNotFound, with the out value unchanged, when there
 /// is no such record; value getters copy a field and never fail.
-class DerivedTypeIf2Impl : public BaseIf2Impl {
+class DerivedTypeIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up DerivedType [%s]";
 

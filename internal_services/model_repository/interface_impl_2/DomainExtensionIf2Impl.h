@@ -15,7 +15,7 @@ class GeneralPropertiesWrapper;
 
 /// Query interface object of one domain extension of an element, reached
 /// through the element's general properties.
-class DomainExtensionIf2Impl : public BaseIf2Impl {
+class DomainExtensionIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up domain extension [%s]";
 

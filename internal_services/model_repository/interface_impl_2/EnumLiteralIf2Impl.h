@@ -19,7 +19,7 @@ class LitWrapper;
 ///
 /// Link getters answer ZefNotFound, with the out value unchanged, when there
 /// is no such record; value getters copy a field and never fail.
-class EnumLiteralIf2Impl : public BaseIf2Impl {
+class EnumLiteralIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up EnumLiteral [%s]";
 

@@ -18,7 +18,7 @@ class EnumWrapper;
 ///
 /// Link getters answer ZefNotFound, with the out value unchanged, when there
 /// is no such record; value getters copy a field and never fail.
-class EnumTypeIf2Impl : public BaseIf2Impl {
+class EnumTypeIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up EnumType [%s]";
     /// An enumeration looked up for its general properties.

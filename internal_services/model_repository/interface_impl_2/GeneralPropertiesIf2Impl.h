@@ -17,7 +17,7 @@ class GeneralPropertiesWrapper;
 
 /// Query interface object of the general properties of one element, and
 /// the way to its domain extensions.
-class GeneralPropertiesIf2Impl : public BaseIf2Impl {
+class GeneralPropertiesIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up general properties [%s]";
 

@@ -54,11 +54,12 @@ public:
     /// Deletes the objects from the last to the first and empties the array.
     void cleanup()
     {
-        while (!_objects.empty()) {
-            T* last = _objects.back();
-            _objects.pop_back();
-            delete last;
+        // Last to first, then the array is emptied at once: no object's
+        // destructor looks at the array.
+        for (auto object = _objects.rbegin(); object != _objects.rend(); ++object) {
+            delete *object;
         }
+        _objects.clear();
     }
 
 private:

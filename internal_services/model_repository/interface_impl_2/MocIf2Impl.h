@@ -20,7 +20,7 @@ class MocWrapper;
 /// containment as parent or as child) or from its lists (first association):
 /// ZefNotFound, with the out value unchanged, when there is none. Value
 /// getters copy a field and never fail; texts point into the record.
-class MocIf2Impl : public BaseIf2Impl {
+class MocIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up moc [%s]";
 

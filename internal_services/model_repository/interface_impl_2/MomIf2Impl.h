@@ -16,7 +16,7 @@ namespace ZefModelRepositoryService {
 class MomWrapper;
 
 /// Query interface object of one MOM.
-class MomIf2Impl : public BaseIf2Impl {
+class MomIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up MOM [%s]";
     /// A MOM looked up to find its root class.

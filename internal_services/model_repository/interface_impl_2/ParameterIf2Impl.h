@@ -18,7 +18,7 @@ class ParameterWrapper;
 ///
 /// Link getters answer ZefNotFound, with the out value unchanged, when there
 /// is no such record; value getters copy a field and never fail.
-class ParameterIf2Impl : public BaseIf2Impl {
+class ParameterIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up Parameter [%s]";
 

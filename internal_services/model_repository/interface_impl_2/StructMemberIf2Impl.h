@@ -18,7 +18,7 @@ class StructMemberWrapper;
 ///
 /// Link getters answer ZefNotFound, with the out value unchanged, when there
 /// is no such record; value getters copy a field and never fail.
-class StructMemberIf2Impl : public BaseIf2Impl {
+class StructMemberIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up StructMember [%s]";
 

@@ -17,7 +17,7 @@ class StructWrapper;
 ///
 /// Link getters answer ZefNotFound, with the out value unchanged, when there
 /// is no such record; value getters copy a field and never fail.
-class StructTypeIf2Impl : public BaseIf2Impl {
+class StructTypeIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up StructType [%s]";
     /// A struct looked up for its general properties.

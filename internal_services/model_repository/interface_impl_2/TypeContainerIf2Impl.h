@@ -26,7 +26,7 @@ class ValueRangeIf2Impl;
 /// version 3 and version 4 are the same numbers) and answer ZefNotFound for
 /// a code the table does not carry and, with the code of getDerived, for an
 /// element without derived type.
-class TypeContainerIf2Impl : public BaseIf2Impl {
+class TypeContainerIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up TypeContainer [%s]";
 

@@ -16,7 +16,7 @@ class UniDirAssociationWrapper;
 ///
 /// Link getters answer ZefNotFound, with the out value unchanged, when there
 /// is no such record; value getters copy a field and never fail.
-class UnidirectionalAssociationIfImpl : public BaseIf2Impl {
+class UnidirectionalAssociationIfImpl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up Unidirectional Association [%s]";
     /// An association looked up for its external flag.

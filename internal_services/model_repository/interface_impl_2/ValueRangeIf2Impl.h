@@ -16,7 +16,7 @@ class ValueRangeWrapper;
 /// Query interface object of one value or length range of a derived type,
 /// reached through the derived type (version 2) or through the integer,
 /// string and floating point tables of a type container (versions 3 and 4).
-class ValueRangeIf2Impl : public BaseIf2Impl {
+class ValueRangeIf2Impl final : public BaseIf2Impl {
 public:
     static constexpr const char* kLookupFailureText = "Failed to look up ValueRange [%s]";
 
