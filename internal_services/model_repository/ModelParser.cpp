@@ -258,7 +258,8 @@ MomWrapper* ModelParser::processMomNode(Node& mim, const std::string& fileName) 
         } else if (isNamed(name, "relationship")) {
             processRelationshipNode(*child, *mom);
         } else if (isNamed(name, "description")) {
-            reportSetterResult(properties.setDescription(getPcdata(*child)), kMomAlreadySet, kMomFailedToSet,
+            std::string joined;
+            reportSetterResult(properties.setDescription(pcdataOf(*child, joined)), kMomAlreadySet, kMomFailedToSet,
                                name.c_str(), mim.nodeName().c_str());
         } else if (isNamed(name, "domainExtension")) {
             handleDomainExtension(child, &properties);
@@ -375,6 +376,16 @@ std::string ModelParser::getPcdata(Node& element) {
         }
     }
     return text;
+}
+
+const std::string& ModelParser::pcdataOf(Node& element, std::string& joined) {
+    Node* text = element.firstChild();
+    if (text != nullptr && text->nextSibling() == nullptr &&
+        (text->nodeType() == Node::TEXT_NODE || text->nodeType() == Node::CDATA_SECTION_NODE)) {
+        return text->getNodeValue();
+    }
+    joined = getPcdata(element);
+    return joined;
 }
 
 void ModelParser::ignoreUnknownElementLog(Node& node) {

@@ -78,6 +78,11 @@ public:
     std::string getPocoData(Attr* attr);
     /// The concatenated text children of an element, untrimmed.
     std::string getPcdata(Node& element);
+    /// The same text without a copy where the element holds one text node
+    /// and nothing else (as almost every text element of a model does): that
+    /// node's value; otherwise getPcdata(element), kept in `joined`. Valid
+    /// while the element and `joined` are.
+    const std::string& pcdataOf(Node& element, std::string& joined);
     void ignoreUnknownElementLog(Node& node);
     void ignoreUnsupportedElementLog(Node& node);
     void ignoreUnknownAttributeLog(Attr& attr);

@@ -140,7 +140,8 @@ void ModelParser::processMocChild(Node& child, MocWrapper& moc, const std::strin
             }
         }
     } else if (isNamed(name, "description")) {
-        result = properties.setDescription(getPcdata(child));
+        std::string joined;
+        result = properties.setDescription(pcdataOf(child, joined));
     } else if (isNamed(name, "specification")) {
         result = properties.setSpecification(getPcdata(child));
     } else if (isStatusWord(name)) {
@@ -261,7 +262,8 @@ void ModelParser::processAttrChild(Node& child, AttrWrapper& attr, const std::st
     } else if (isNamed(name, "domainExtension")) {
         handleDomainExtension(&child, &properties);
     } else if (isNamed(name, "description")) {
-        result = properties.setDescription(getPcdata(child));
+        std::string joined;
+        result = properties.setDescription(pcdataOf(child, joined));
     } else if (isNamed(name, "specification")) {
         result = properties.setSpecification(getPcdata(child));
     } else if (isNamed(name, "mandatory")) {
@@ -328,7 +330,8 @@ MoActionWrapper* ModelParser::processActionNode(Node& actionElement, MocWrapper&
         } else if (isNamed(name, "parameter")) {
             handleParameter(*child, *action);
         } else if (isNamed(name, "description")) {
-            result = properties.setDescription(getPcdata(*child));
+            std::string joined;
+            result = properties.setDescription(pcdataOf(*child, joined));
         } else if (isStatusWord(name)) {
             result = setStatusWord(name, properties);
         } else if (contains(kUnsupportedActionChildren, name)) {
@@ -400,7 +403,8 @@ void ModelParser::handleParameter(Node& parameter, MoActionWrapper& action) {
         }
         const std::string& name = child->nodeName();
         if (isNamed(name, "description")) {
-            properties.setDescription(getPcdata(*child));
+            std::string joined;
+            properties.setDescription(pcdataOf(*child, joined));
         } else if (isNamed(name, "in")) {
             hasIn = true;
         } else if (isNamed(name, "dataType")) {
@@ -525,9 +529,11 @@ void ModelParser::handleReference(Node* reference, T* record, bool allowDefault)
         }
         const std::string& name = child->nodeName();
         if (isNamed(name, "mimName")) {
-            ref.setRefMomName(getPcdata(*child));
+            std::string joined;
+            ref.setRefMomName(pcdataOf(*child, joined));
         } else if (isNamed(name, "mimVersion")) {
-            ref.setRefMomVersion(getPcdata(*child));
+            std::string joined;
+            ref.setRefMomVersion(pcdataOf(*child, joined));
         } else if (isNamed(name, "defaultValue") && allowDefault) {
             const std::string value = getPcdata(*child);
             record->setDefaultValue(value);

@@ -170,7 +170,8 @@ EnumWrapper* ModelParser::processEnumNode(Node& enumeration, MomWrapper& mom) {
         }
         const std::string& name = child->nodeName();
         if (isNamed(name, "description")) {
-            record->setDescription(getPcdata(*child));
+            std::string joined;
+            record->setDescription(pcdataOf(*child, joined));
         } else if (isNamed(name, "enumMember")) {
             handleEnumMember(*child, *record);
         } else if (isNamed(name, "domainExtension")) {
@@ -276,7 +277,8 @@ DdtWrapper* ModelParser::processDdtNode(Node& derivedDataType, MomWrapper& mom) 
         }
         const std::string& name = child->nodeName();
         if (isNamed(name, "description")) {
-            ddt->setDescription(getPcdata(*child));
+            std::string joined;
+            ddt->setDescription(pcdataOf(*child, joined));
         } else if (isNamed(name, "baseType")) {
             handleBaseType(*child, *ddt);
         } else if (isNamed(name, "domainExtension")) {
@@ -445,7 +447,8 @@ StructWrapper* ModelParser::processStructNode(Node* structure, MomWrapper* mom) 
         }
         const std::string& name = child->nodeName();
         if (isNamed(name, "description")) {
-            record->setDescription(getPcdata(*child));
+            std::string joined;
+            record->setDescription(pcdataOf(*child, joined));
         } else if (isNamed(name, "isExclusive")) {
             record->setIsExclusive(true);
             ZEF_TRACE("IsExclusive has been read for %s ", structName.c_str());

@@ -362,6 +362,29 @@ TEST_F(ModelParserTest, GetPcdataConcatenatesTextWithoutTrimming) {
     EXPECT_TRUE(logged("Ignoring XML items of type: 1; name: b; value: ."));
 }
 
+TEST_F(ModelParserTest, PcdataOfOneTextNodeIsThatNodesValue) {
+    Poco::XML::Element* element = loadElement("<d> just text </d>");
+    std::string joined = "untouched";
+    const std::string& text = parser.pcdataOf(*element, joined);
+    EXPECT_EQ(" just text ", text);
+    EXPECT_EQ(&element->firstChild()->getNodeValue(), &text);
+    EXPECT_EQ("untouched", joined);
+    Poco::XML::Element* cdata = loadElement("<d><![CDATA[<x>]]></d>");
+    EXPECT_EQ("<x>", parser.pcdataOf(*cdata, joined));
+}
+
+TEST_F(ModelParserTest, PcdataOfMixedOrEmptyContentIsJoinedAsGetPcdataJoinsIt) {
+    Poco::XML::Element* element = loadElement("<d> one <!--c--><![CDATA[<two>]]><b/> three</d>");
+    std::string joined;
+    const std::string& text = parser.pcdataOf(*element, joined);
+    EXPECT_EQ(" one <two> three", text);
+    EXPECT_EQ(&joined, &text);
+    EXPECT_TRUE(logged("Ignoring comment: #comment."));
+    EXPECT_TRUE(logged("Ignoring XML items of type: 1; name: b; value: ."));
+    EXPECT_EQ("", parser.pcdataOf(*loadElement("<d/>"), joined));
+    EXPECT_EQ("", parser.pcdataOf(*loadElement("<d><b/></d>"), joined));
+}
+
 TEST_F(ModelParserTest, IgnoreUnknownElementLog) {
     Poco::XML::Node* node = firstChildOf("<a><b/><!--c--></a>");
     parser.ignoreUnknownElementLog(*node);
