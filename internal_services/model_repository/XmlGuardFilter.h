@@ -38,13 +38,17 @@ struct InputLimits;
 ///   values) than the document could hold without entities, three bytes per
 ///   input byte (the most any encoding grows to in UTF-8), plus the limit,
 ///   which also catches an attribute default that copies an entity into
-///   every element;
+///   every element (text is counted only once the document has a document
+///   type: without one, nothing declares an entity or a default);
 /// - the document uses more distinct element and attribute names than the
 ///   name pool of a DOM document made without one holds. The pool throws
 ///   from inside the DOM builder then; this filter catches that before it
 ///   reaches the XML reader, which, left by an exception, never frees its
 ///   parser (see XmlParseStop), and refuses the document instead, so that
 ///   it fails like any malformed one.
+///
+/// Given a tally, it also counts the elements of one name as they reach the
+/// builder (see ElementTally).
 ///
 /// The checks share one filter so that the events of a large document pass
 /// one layer, as they do in a plain DOM parser. Every event is passed on
