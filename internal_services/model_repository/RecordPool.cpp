@@ -3,24 +3,12 @@
 #include <mutex>
 #include <new>
 
+#include "AddressSanitizerBuild.h"
 #include "PoolLock.h"
 
 namespace ZefModelRepositoryService {
 
 namespace {
-
-// g++ names an AddressSanitizer build with a macro, clang with a feature.
-#if defined(__SANITIZE_ADDRESS__)
-const bool kBypass = true;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-const bool kBypass = true;
-#else
-const bool kBypass = false;
-#endif
-#else
-const bool kBypass = false;
-#endif
 
 // Sizes are multiples of 8. A class whose size is a multiple of 16 may need
 // 16-byte alignment, and gets it: each size class cuts its blocks from
@@ -67,7 +55,7 @@ std::size_t classOf(std::size_t size)
 
 void* RecordPool::allocate(std::size_t size)
 {
-    if (kBypass || size > kLargestBlock) {
+    if (kAddressSanitizerBuild || size > kLargestBlock) {
         return ::operator new(size);
     }
     const std::size_t sizeClass = classOf(size);
@@ -99,7 +87,7 @@ void RecordPool::release(void* block, std::size_t size) noexcept
     if (block == nullptr) {
         return;
     }
-    if (kBypass || size > kLargestBlock) {
+    if (kAddressSanitizerBuild || size > kLargestBlock) {
         ::operator delete(block);
         return;
     }

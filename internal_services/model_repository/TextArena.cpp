@@ -7,24 +7,12 @@
 #include <new>
 #include <vector>
 
+#include "AddressSanitizerBuild.h"
 #include "PoolLock.h"
 
 namespace ZefModelRepositoryService {
 
 namespace {
-
-// g++ names an AddressSanitizer build with a macro, clang with a feature.
-#if defined(__SANITIZE_ADDRESS__)
-const bool kBypass = true;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-const bool kBypass = true;
-#else
-const bool kBypass = false;
-#endif
-#else
-const bool kBypass = false;
-#endif
 
 // Every chunk begins at a multiple of its size, so the chunk of a string
 // is its address with the low bits cleared: releasing a string reads only
@@ -126,7 +114,7 @@ char* cut(Chunk* chunk, char* copy, const char* text, std::size_t length) {
 } // namespace
 
 char* TextArena::copy(const char* text, std::size_t length) {
-    if (kBypass) {
+    if (kAddressSanitizerBuild) {
         char* copy = new char[length + 1];
         std::memcpy(copy, text, length);
         copy[length] = '\0';
@@ -158,7 +146,7 @@ void TextArena::release(char* text) noexcept {
     if (text == nullptr) {
         return;
     }
-    if (kBypass) {
+    if (kAddressSanitizerBuild) {
         delete[] text;
         return;
     }
