@@ -338,6 +338,52 @@ private:
         }
     }
 
+    /// What lookUpType found: the target, and the key it built (empty
+    /// for a target met before). Without a target, an empty key could not
+    /// be built and a key names nothing registered.
+    template <typename Wrapper>
+    struct TypeLookUp {
+        const Wrapper* target = nullptr;
+        std::string key;
+    };
+
+    /// The registered type that `ref` names: the one met before in this
+    /// compilation, or the one its key (built by `keyOf`) names in
+    /// `registry`, which is then remembered.
+    template <typename Wrapper>
+    TypeLookUp<Wrapper> lookUpType(ResolvedReferences::Kind kind, const RefId& ref,
+                                   const std::map<std::string, Wrapper*>& registry,
+                                   std::string (*keyOf)(const char*, const char*, const char*))
+    {
+        TypeLookUp<Wrapper> result;
+        result.target = static_cast<const Wrapper*>(findResolved(kind, ref));
+        if (result.target != nullptr) {
+            return result;
+        }
+        result.key = keyOf(ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(), ref.getRefName().c_str());
+        if (result.key.empty()) {
+            return result;
+        }
+        const auto found = registry.find(result.key);
+        if (found != registry.end()) {
+            result.target = found->second;
+            noteResolved(kind, ref, result.target);
+        }
+        return result;
+    }
+
+    /// Traces `text` with the target's key: the one lookUpType built, or,
+    /// for a target met before, one built for the trace only.
+    void traceType(const ResolutionText& text, const RefId& ref,
+                   std::string (*keyOf)(const char*, const char*, const char*), const std::string& key)
+    {
+        if (key.empty()) {
+            traceResolved(text, ref, keyOf);
+        } else {
+            trace(text, key.c_str());
+        }
+    }
+
     template <typename Element>
     static void setTargets(Element& element, const TypeTargets& targets)
     {
@@ -452,27 +498,18 @@ private:
             say(ZEF_LOG_LEVEL_ERROR, _texts.enumAlreadySet);
             return;
         }
-        const auto* known = static_cast<const EnumWrapper*>(findResolved(ResolvedReferences::Kind::Enum, ref));
-        if (known != nullptr) {
-            setTargets(element, TypeTargets{nullptr, &known->getStruct(), nullptr, nullptr});
-            traceResolved(_texts.enumResolved, ref, &EnumWrapper::getEnumId);
+        const TypeLookUp<EnumWrapper> found =
+            lookUpType(ResolvedReferences::Kind::Enum, ref, _repository.getEnumMap(), &EnumWrapper::getEnumId);
+        if (found.target == nullptr) {
+            if (found.key.empty()) {
+                say(ZEF_LOG_LEVEL_ERROR, _texts.enumNotSet);
+            } else {
+                say(ZEF_LOG_LEVEL_ERROR, _texts.enumNotFound, found.key.c_str());
+            }
             return;
         }
-        const std::string enumKey = EnumWrapper::getEnumId(
-            ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(), ref.getRefName().c_str());
-        if (enumKey.empty()) {
-            say(ZEF_LOG_LEVEL_ERROR, _texts.enumNotSet);
-            return;
-        }
-        const ModelRepository::EnumMap& enums = _repository.getEnumMap();
-        const auto found = enums.find(enumKey);
-        if (found == enums.end()) {
-            say(ZEF_LOG_LEVEL_ERROR, _texts.enumNotFound, enumKey.c_str());
-            return;
-        }
-        noteResolved(ResolvedReferences::Kind::Enum, ref, found->second);
-        setTargets(element, TypeTargets{nullptr, &found->second->getStruct(), nullptr, nullptr});
-        trace(_texts.enumResolved, enumKey.c_str());
+        setTargets(element, TypeTargets{nullptr, &found.target->getStruct(), nullptr, nullptr});
+        traceType(_texts.enumResolved, ref, &EnumWrapper::getEnumId, found.key);
     }
 
     template <typename Element>
@@ -482,35 +519,24 @@ private:
             say(ZEF_LOG_LEVEL_ERROR, _texts.ddtAlreadySet);
             return;
         }
-        const auto* target = static_cast<const DdtWrapper*>(findResolved(ResolvedReferences::Kind::Ddt, ref));
-        std::string ddtKey;
-        if (target == nullptr) {
-            ddtKey = DdtWrapper::getDdtId(ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(),
-                                          ref.getRefName().c_str());
-            if (ddtKey.empty()) {
+        const TypeLookUp<DdtWrapper> found =
+            lookUpType(ResolvedReferences::Kind::Ddt, ref, _repository.getDdtMap(), &DdtWrapper::getDdtId);
+        if (found.target == nullptr) {
+            if (found.key.empty()) {
                 say(ZEF_LOG_LEVEL_ERROR, _texts.ddtNotSet);
-                return;
+            } else {
+                say(ZEF_LOG_LEVEL_ERROR, _texts.ddtNotFound, found.key.c_str());
             }
-            const ModelRepository::DdtMap& ddts = _repository.getDdtMap();
-            const auto found = ddts.find(ddtKey);
-            if (found == ddts.end()) {
-                say(ZEF_LOG_LEVEL_ERROR, _texts.ddtNotFound, ddtKey.c_str());
-                return;
-            }
-            target = found->second;
-            noteResolved(ResolvedReferences::Kind::Ddt, ref, target);
+            return;
         }
+        const DdtWrapper* target = found.target;
         const ZefOamSpiDerivedDatatype* ddt = &target->getStruct();
         if (isKey && _texts.passphraseIgnored.format != nullptr && target->getIsPassphrase()) {
             ddt = passphraseSubstitute(*target);
         }
         setTargets(element, TypeTargets{nullptr, nullptr, ddt, nullptr});
-        if (ddt != nullptr && CompileReporter::traceEnabled()) {
-            if (ddtKey.empty()) {
-                ddtKey = DdtWrapper::getDdtId(ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(),
-                                              ref.getRefName().c_str());
-            }
-            trace(_texts.ddtResolved, ddtKey.c_str());
+        if (ddt != nullptr) {
+            traceType(_texts.ddtResolved, ref, &DdtWrapper::getDdtId, found.key);
         }
     }
 
@@ -552,27 +578,18 @@ private:
             say(ZEF_LOG_LEVEL_ERROR, _texts.structAlreadySet);
             return;
         }
-        const auto* known = static_cast<const StructWrapper*>(findResolved(ResolvedReferences::Kind::Struct, ref));
-        if (known != nullptr) {
-            setTargets(element, TypeTargets{nullptr, nullptr, nullptr, &known->getStruct()});
-            traceResolved(_texts.structResolved, ref, &StructWrapper::getStructId);
+        const TypeLookUp<StructWrapper> found = lookUpType(ResolvedReferences::Kind::Struct, ref,
+                                                           _repository.getStructMap(), &StructWrapper::getStructId);
+        if (found.target == nullptr) {
+            if (found.key.empty()) {
+                say(ZEF_LOG_LEVEL_ERROR, _texts.structNotSet);
+            } else {
+                say(ZEF_LOG_LEVEL_ERROR, _texts.structNotFound, found.key.c_str());
+            }
             return;
         }
-        const std::string structKey = StructWrapper::getStructId(
-            ref.getRefMomName().c_str(), ref.getRefMomVersion().c_str(), ref.getRefName().c_str());
-        if (structKey.empty()) {
-            say(ZEF_LOG_LEVEL_ERROR, _texts.structNotSet);
-            return;
-        }
-        const ModelRepository::StructMap& structs = _repository.getStructMap();
-        const auto found = structs.find(structKey);
-        if (found == structs.end()) {
-            say(ZEF_LOG_LEVEL_ERROR, _texts.structNotFound, structKey.c_str());
-            return;
-        }
-        noteResolved(ResolvedReferences::Kind::Struct, ref, found->second);
-        setTargets(element, TypeTargets{nullptr, nullptr, nullptr, &found->second->getStruct()});
-        trace(_texts.structResolved, structKey.c_str());
+        setTargets(element, TypeTargets{nullptr, nullptr, nullptr, &found.target->getStruct()});
+        traceType(_texts.structResolved, ref, &StructWrapper::getStructId, found.key);
     }
 
     ModelRepository& _repository;
