@@ -46,6 +46,15 @@ ZefTest::GuardFactory stopAt(const std::string& name) {
     };
 }
 
+/// Reads, with the depth limit `maxDepth`, a document whose 509 names fill
+/// the pool and then an element with a new name at level 3.
+ZefTest::GuardedRead readFullPoolThenANewNameAtLevel3(std::uint64_t maxDepth) {
+    ZefModelRepositoryService::InputLimits limits;
+    limits.maxDepth = maxDepth;
+    return ZefTest::readGuarded("<r>" + ZefTest::numberedElements(1, 508) + "<n1><x/></n1></r>",
+                                ZefTest::guardWith(limits));
+}
+
 } // namespace
 
 TEST(XmlGuardFilterTest, EveryKindOfNodePassesWhileNotRefused) {
@@ -106,27 +115,13 @@ TEST(XmlGuardFilterTest, WhiteSpaceOnlyTextBetweenElementsIsDropped) {
 }
 
 TEST(XmlGuardFilterTest, TheFirstLimitPassedInOneStartTagIsTheReason) {
-    // The pool is full (509 names), then one element is both a level too
-    // deep and a name too many: the depth is checked first.
-    ZefModelRepositoryService::InputLimits limits;
-    limits.maxDepth = 2;
-    std::string text = "<r>";
-    for (int i = 1; i < 509; ++i) {
-        text += "<n" + std::to_string(i) + "/>";
-    }
-    text += "<n1><x/></n1></r>";
-    const ZefTest::GuardedRead read = ZefTest::readGuarded(text, ZefTest::guardWith(limits));
+    // One element is both a level too deep and a name too many: the depth
+    // is checked first.
+    const ZefTest::GuardedRead read = readFullPoolThenANewNameAtLevel3(2);
     EXPECT_EQ("elements nested deeper than 2 levels (ZEF_VALIDATOR_MAX_DEPTH)", read.refusal);
 }
 
 TEST(XmlGuardFilterTest, ANameTooManyWithinTheDepthIsRefusedForTheNames) {
-    ZefModelRepositoryService::InputLimits limits;
-    limits.maxDepth = 3;
-    std::string text = "<r>";
-    for (int i = 1; i < 509; ++i) {
-        text += "<n" + std::to_string(i) + "/>";
-    }
-    text += "<n1><x/></n1></r>";
-    const ZefTest::GuardedRead read = ZefTest::readGuarded(text, ZefTest::guardWith(limits));
+    const ZefTest::GuardedRead read = readFullPoolThenANewNameAtLevel3(3);
     EXPECT_EQ("more than 509 distinct element and attribute names, more than a DOM document holds", read.refusal);
 }

@@ -66,6 +66,15 @@ inline GuardFactory guardWith(ZefModelRepositoryService::InputLimits limits) {
     };
 }
 
+/// Empty elements named n<first> to n<last>, each a name of its own.
+inline std::string numberedElements(int first, int last) {
+    std::string text;
+    for (int i = first; i <= last; ++i) {
+        text += "<n" + std::to_string(i) + "/>";
+    }
+    return text;
+}
+
 /// `count` elements named `name` nested in one another.
 inline std::string nestedElements(int count, const std::string& name = "e") {
     std::string text;
