@@ -22,13 +22,6 @@ public:
     AttributeList& operator=(const AttributeList&) = delete;
     AttributeList(AttributeList&&) = default;
 
-    /// Prepares room for `count` attributes.
-    void reserve(std::size_t count) {
-        if (count > kInPlace) {
-            _more.reserve(count);
-        }
-    }
-
     /// Appends one attribute.
     void push_back(Poco::XML::Attr* attr) {
         if (_more.empty() && _size < kInPlace) {

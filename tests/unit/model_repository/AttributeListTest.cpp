@@ -51,18 +51,6 @@ TEST(AttributeListTest, MoreAttributesThanFitInPlaceKeepTheirOrder) {
     EXPECT_EQ(expected, listed(list));
 }
 
-TEST(AttributeListTest, ReservedRoomChangesNothingListed) {
-    std::vector<char> storage(10);
-    AttributeList list;
-    list.reserve(7);
-    for (std::size_t i = 0; i < 7; ++i) {
-        list.push_back(fake(storage, i));
-    }
-    EXPECT_EQ(7u, list.size());
-    EXPECT_EQ(fake(storage, 0), *list.begin());
-    EXPECT_EQ(fake(storage, 6), *(list.end() - 1));
-}
-
 TEST(AttributeListTest, AMovedListKeepsItsAttributes) {
     std::vector<char> storage(10);
     AttributeList small;
