@@ -13,6 +13,7 @@
 #include "DdtWrapper.h"
 #include "EnumWrapper.h"
 #include "FindingSubject.h"
+#include "LazyKey.h"
 #include "MoActionWrapper.h"
 #include "MocWrapper.h"
 #include "MrUtil.h"
@@ -215,7 +216,7 @@ public:
                  const ResolutionTexts& texts, ResolvedReferences* references,
                  const GeneralPropertiesWrapper* holder)
         : _repository(repository), _reporter(reporter), _word(word), _texts(texts), _references(references),
-          _holder(holder)
+          _holderKey(holder)
     {
     }
 
@@ -226,8 +227,7 @@ public:
     {
         // The key is only read for a text: most elements have a basic type
         // and, below the trace level, produce none.
-        _element = &element;
-        _keyRead = false;
+        _key.reset(&element);
         RefId& ref = element;
         const ZefOamSpiMrType_3 type = element.getType();
         switch (type) {
@@ -271,24 +271,10 @@ public:
 private:
     /// The key of the holder, read on first use: most elements refer to no
     /// class. Empty without a holder.
-    const std::string& holderKey()
-    {
-        if (!_holderKeyRead) {
-            _holderKey = _holder != nullptr ? _holder->getId() : std::string();
-            _holderKeyRead = true;
-        }
-        return _holderKey;
-    }
+    const std::string& holderKey() { return _holderKey.str(); }
 
     /// The identity key of the element being resolved, read once.
-    const std::string& key()
-    {
-        if (!_keyRead) {
-            _key = _element->getId();
-            _keyRead = true;
-        }
-        return _key;
-    }
+    const std::string& key() { return _key.str(); }
 
     template <typename... Args>
     std::string render(const ResolutionText& text, Args... args)
@@ -597,14 +583,11 @@ private:
     const char* _word;
     const ResolutionTexts& _texts;
     ResolvedReferences* _references;
-    const GeneralPropertiesWrapper* _holder;
-    std::string _holderKey;
-    bool _holderKeyRead = false;
+    LazyKey _holderKey;
     // The last reference that was given its element's own MOM.
     const RefId* _ownMomRef = nullptr;
-    const GeneralPropertiesWrapper* _element = nullptr;
-    std::string _key;
-    bool _keyRead = false;
+    // The element being resolved.
+    LazyKey _key;
 };
 
 /// The kind word of the members of a container, as the member texts print it.

@@ -22,6 +22,7 @@
 #include "DdtWrapper.h"
 #include "EnumWrapper.h"
 #include "FindingSubject.h"
+#include "LazyKey.h"
 #include "LitWrapper.h"
 #include "MoActionWrapper.h"
 #include "MocWrapper.h"
@@ -192,27 +193,6 @@ std::vector<std::string> nonConformingDefaults(const ZefOamSpiDerivedDatatype* d
     }
     return result;
 }
-
-/// The identity key of a record, read on first use: most elements give no
-/// finding, and below the trace level nothing names them.
-class LazyKey {
-public:
-    explicit LazyKey(const GeneralPropertiesWrapper& record) : _record(record) {}
-
-    const char* operator()()
-    {
-        if (!_read) {
-            _key = _record.getId();
-            _read = true;
-        }
-        return _key.c_str();
-    }
-
-private:
-    const GeneralPropertiesWrapper& _record;
-    std::string _key;
-    bool _read = false;
-};
 
 /// The registry key of each published record of a registry, so that a
 /// pointer found in the model graph is named as the registry names it
@@ -585,7 +565,7 @@ void ModelRepository::checkActions(MocWrapper& moc)
     };
     for (MoActionWrapper* action : moc.getMoActionList()) {
         const FindingSubject subject(*this, action);
-        LazyKey key(*action);
+        LazyKey key(action);
         const ZefOamSpiDatatypeContainer& returnType = action->getDatatype();
         ZEF_TRACE("Checking MoAction (%s)", key());
         if (returnType.type == ZefMrType3Derived) {
@@ -611,7 +591,7 @@ void ModelRepository::checkParameters(MoActionWrapper& action)
     };
     for (ParameterWrapper* parameter : action.getParameterList()) {
         const FindingSubject subject(*this, parameter);
-        LazyKey key(*parameter);
+        LazyKey key(parameter);
         const ZefOamSpiDatatypeContainer& datatype = parameter->getDatatype();
         ZEF_TRACE("Checking Parameter (%s)", key());
         if (datatype.type == ZefMrType3Derived) {
