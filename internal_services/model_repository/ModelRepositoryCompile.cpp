@@ -22,6 +22,7 @@
 #include "MocWrapper.h"
 #include "MomWrapper.h"
 #include "MrUtil.h"
+#include "RegistryIndex.h"
 #include "ResolvedReferences.h"
 #include "StructWrapper.h"
 #include "ZefLog.h"
@@ -89,42 +90,7 @@ void completeMimId(ModelRepository& repository, ContWrapper& cont, const Contain
     }
 }
 
-/// The registered classes by the address of their published record: a
-/// class pointer that compilation has resolved leads back to the class's
-/// record and to its place in key order, without its key being built and
-/// looked up again.
-class ClassesByRecord {
-public:
-    struct Entry {
-        const ZefOamSpiMoc* record;
-        MocWrapper* wrapper;
-        const std::string* key;
-        size_t rank; // place in key order
-    };
-
-    explicit ClassesByRecord(const ModelRepository::MocMap& mocs)
-    {
-        _entries.reserve(mocs.size());
-        for (const auto& entry : mocs) {
-            _entries.push_back({&entry.second->getStruct(), entry.second, &entry.first, _entries.size()});
-        }
-        std::sort(_entries.begin(), _entries.end(),
-                  [](const Entry& a, const Entry& b) { return std::less<const ZefOamSpiMoc*>()(a.record, b.record); });
-    }
-
-    /// The registered class of that record, or null.
-    const Entry* find(const ZefOamSpiMoc* record) const
-    {
-        const auto found = std::lower_bound(_entries.begin(), _entries.end(), record,
-                                            [](const Entry& entry, const ZefOamSpiMoc* wanted) {
-                                                return std::less<const ZefOamSpiMoc*>()(entry.record, wanted);
-                                            });
-        return found != _entries.end() && found->record == record ? &*found : nullptr;
-    }
-
-private:
-    std::vector<Entry> _entries;
-};
+using ClassesByRecord = RegistryIndex<ModelRepository::MocMap>;
 
 /// The registered class a containment names on one side: the class it was
 /// resolved to, or else the class its key names. Null when there is none;

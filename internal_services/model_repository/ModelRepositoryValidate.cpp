@@ -29,6 +29,7 @@
 #include "MomWrapper.h"
 #include "MrUtil.h"
 #include "ParameterWrapper.h"
+#include "RegistryIndex.h"
 #include "StructMemberWrapper.h"
 #include "StructWrapper.h"
 #include "TypeContainerWrapper.h"
@@ -194,58 +195,11 @@ std::vector<std::string> nonConformingDefaults(const ZefOamSpiDerivedDatatype* d
     return result;
 }
 
-/// The registry key of each published record of a registry, so that a
-/// pointer found in the model graph is named as the registry names it
-/// without a walk over the registry. The keys are the registry's own
-/// strings; each record also has its place here, for marks kept per record.
-template <typename Record>
-class RegistryKeys {
-public:
-    static constexpr size_t kNone = static_cast<size_t>(-1);
-
-    template <typename Map>
-    explicit RegistryKeys(const Map& map)
-    {
-        _entries.reserve(map.size());
-        for (const auto& entry : map) {
-            _entries.emplace_back(&entry.second->getStruct(), &entry.first);
-        }
-        std::sort(_entries.begin(), _entries.end(), [](const Entry& a, const Entry& b) {
-            return std::less<const Record*>()(a.first, b.first);
-        });
-    }
-
-    /// The number of records, each of which has a place below it.
-    size_t size() const { return _entries.size(); }
-
-    /// The place of `record`, or kNone when it is in no registry.
-    size_t indexOf(const Record* record) const
-    {
-        const auto found = std::lower_bound(_entries.begin(), _entries.end(), record,
-                                            [](const Entry& entry, const Record* wanted) {
-                                                return std::less<const Record*>()(entry.first, wanted);
-                                            });
-        return found != _entries.end() && found->first == record ? static_cast<size_t>(found - _entries.begin())
-                                                                  : kNone;
-    }
-
-    /// The key of `record`, or null when it is in no registry.
-    const std::string* find(const Record* record) const
-    {
-        const size_t index = indexOf(record);
-        return index != kNone ? _entries[index].second : nullptr;
-    }
-
-private:
-    using Entry = std::pair<const Record*, const std::string*>;
-    std::vector<Entry> _entries;
-};
-
 /// The containments whose chain has been walked: a mark per registered
 /// containment, a set for any other.
 class WalkedContainments {
 public:
-    explicit WalkedContainments(const RegistryKeys<ZefOamSpiContainment>& keys)
+    explicit WalkedContainments(const RegistryIndex<ModelRepository::ContMap>& keys)
         : _keys(keys), _marks(keys.size(), false)
     {
     }
@@ -254,7 +208,7 @@ public:
     bool mark(const ZefOamSpiContainment* cont)
     {
         const size_t index = _keys.indexOf(cont);
-        if (index == RegistryKeys<ZefOamSpiContainment>::kNone) {
+        if (index == RegistryIndex<ModelRepository::ContMap>::kNone) {
             return _others.insert(cont).second;
         }
         if (_marks[index]) {
@@ -265,7 +219,7 @@ public:
     }
 
 private:
-    const RegistryKeys<ZefOamSpiContainment>& _keys;
+    const RegistryIndex<ModelRepository::ContMap>& _keys;
     std::vector<bool> _marks;
     std::unordered_set<const ZefOamSpiContainment*> _others;
 };
@@ -616,21 +570,21 @@ void ModelRepository::checkParameters(MoActionWrapper& action)
 void ModelRepository::checkConts()
 {
     ZEF_TRACE_ENTER(" >> Validating Containments..");
-    const RegistryKeys<ZefOamSpiContainment> contKeys(_conts);
-    const RegistryKeys<ZefOamSpiMoc> mocKeys(_mocs);
+    const RegistryIndex<ContMap> contKeys(_conts);
+    const RegistryIndex<MocMap> mocKeys(_mocs);
     const auto contKey = [&contKeys](const ZefOamSpiContainment* cont) {
-        const std::string* key = contKeys.find(cont);
+        const std::string* key = contKeys.keyOf(cont);
         return key != nullptr ? *key : ContWrapper::getContId(cont);
     };
     const auto mocKey = [&mocKeys](const ZefOamSpiMoc* moc) {
-        const std::string* key = mocKeys.find(moc);
+        const std::string* key = mocKeys.keyOf(moc);
         return key != nullptr ? *key : MocWrapper::getMocId(moc);
     };
     // The parent key as one string per text: a registered class's own key,
     // else the built key kept here, so that equal keys are the same string.
     std::set<std::string> otherParentKeys;
     const auto parentKey = [this, &mocKeys, &otherParentKeys](const ZefOamSpiMoc* moc) {
-        const std::string* key = mocKeys.find(moc);
+        const std::string* key = mocKeys.keyOf(moc);
         if (key != nullptr) {
             return key;
         }
