@@ -80,14 +80,7 @@ std::string AttrWrapper::getAttrId(const ZefOamSpiMoAttribute* attr)
 
 std::string AttrWrapper::getId() const
 {
-    if (_id.empty()) {
-        // The key just built is handed back as it is: the copy kept serves
-        // every later call.
-        std::string id = getAttrId(&_attr);
-        _id.set(id);
-        return id;
-    }
-    return _id.str();
+    return _id.empty() ? _id.keep(getAttrId(&_attr)) : _id.str();
 }
 
 ZefReturnT AttrWrapper::setMoc(const ZefOamSpiMoc* moc)

@@ -23,6 +23,14 @@ public:
     /// Keeps `key`; an empty key leaves the cache empty.
     void set(const std::string& key);
 
+    /// Keeps `key` and hands it back as it is: the caller that built it
+    /// needs no copy of the kept one.
+    std::string keep(std::string key)
+    {
+        set(key);
+        return key;
+    }
+
     /// The kept key, or the empty string.
     std::string str() const { return _text != nullptr ? std::string(_text) : std::string(); }
 

@@ -65,14 +65,7 @@ std::string MoActionWrapper::getMoActionId(const ZefOamSpiMoAction* action)
 
 std::string MoActionWrapper::getId() const
 {
-    if (_id.empty()) {
-        // The key just built is handed back as it is: the copy kept serves
-        // every later call.
-        std::string id = getMoActionId(&_action);
-        _id.set(id);
-        return id;
-    }
-    return _id.str();
+    return _id.empty() ? _id.keep(getMoActionId(&_action)) : _id.str();
 }
 
 ZefReturnT MoActionWrapper::setMoc(const ZefOamSpiMoc* moc)

@@ -33,3 +33,13 @@ TEST(CachedKeyTest, EmptyKeyLeavesTheCacheEmpty)
     EXPECT_TRUE(key.empty());
     EXPECT_EQ("", key.str());
 }
+
+TEST(CachedKeyTest, KeepKeepsTheKeyAndHandsItBack)
+{
+    CachedKey key;
+    EXPECT_EQ("M~1~C~a", key.keep("M~1~C~a"));
+    EXPECT_FALSE(key.empty());
+    EXPECT_EQ("M~1~C~a", key.str());
+    EXPECT_EQ("", key.keep(""));
+    EXPECT_TRUE(key.empty());
+}
