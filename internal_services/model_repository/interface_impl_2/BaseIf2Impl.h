@@ -13,10 +13,14 @@ namespace ZefModelRepositoryService {
 ///
 /// Interface objects refer back to their element records and are owned by
 /// the manager's arrays, so they are neither copied nor assigned.
+///
+/// Each array holds and deletes objects of its one final class, never
+/// through this base: the destructor is not virtual, which spares every
+/// object a table pointer (a model has hundreds of thousands of them), and
+/// protected, so that no code can delete an object through the base.
 class BaseIf2Impl {
 public:
     BaseIf2Impl() = default;
-    virtual ~BaseIf2Impl() = default;
 
     BaseIf2Impl(const BaseIf2Impl&) = delete;
     BaseIf2Impl& operator=(const BaseIf2Impl&) = delete;
@@ -30,6 +34,9 @@ public:
     void pushedWithHandle(unsigned long long handle) { _handle = handle; }
     /// The assigned handle; 0 until the object has been pushed.
     uint64_t getHandle() const { return _handle; }
+
+protected:
+    ~BaseIf2Impl() = default;
 
 private:
     uint64_t _handle = 0;

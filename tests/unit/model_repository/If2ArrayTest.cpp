@@ -17,10 +17,10 @@ using ZefModelRepositoryService::BaseIf2Impl;
 using ZefModelRepositoryService::If2Array;
 
 /// An interface object that records when it is deleted.
-class Probe : public BaseIf2Impl {
+class Probe final : public BaseIf2Impl {
 public:
     Probe(int id, std::vector<int>& deleted) : _id(id), _deleted(deleted) {}
-    ~Probe() override { _deleted.push_back(_id); }
+    ~Probe() { _deleted.push_back(_id); }
     int id() const { return _id; }
 
 private:
