@@ -34,18 +34,18 @@ public:
 
     const std::string& getDomain() const { return *_domain; }
     const std::string& getName() const { return *_name; }
-    const std::string& getValue() const { return *_value; }
+    const std::string& getValue() const { return _value; }
 
     /// Query handle; 0 until the query interface has registered the record.
     uint64_t getHandle() const { return _handle; }
     void setHandle(uint64_t handle) { _handle = handle; }
 
 private:
-    // Domains, names and values repeat across a model ("QCIM",
-    // "isNillable", "true"): one pooled copy each.
+    // Domains and names repeat across a model ("QCIM", "isNillable"): one
+    // pooled copy each.
     const std::string* _domain;
     const std::string* _name;
-    const std::string* _value;
+    std::string _value;
     uint64_t _handle = 0;
 };
 
