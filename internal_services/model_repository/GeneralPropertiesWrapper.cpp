@@ -141,16 +141,10 @@ const DomainExtensionWrapper* GeneralPropertiesWrapper::getDomainExtension(const
 
 bool GeneralPropertiesWrapper::isNillable() const
 {
-    // Asked for every attribute while compiling: the names are built once,
-    // and compared as strings, length first.
+    // Asked for every attribute while compiling: the names are built once.
     static const std::string domain("QCIM");
     static const std::string name("isNillable");
-    for (const DomainExtensionWrapper* extension : _domainExtensions) {
-        if (extension->getDomain() == domain && extension->getName() == name) {
-            return true;
-        }
-    }
-    return false;
+    return getDomainExtension(domain, name) != nullptr;
 }
 
 } // namespace ZefModelRepositoryService

@@ -546,13 +546,15 @@ bool ModelRepository::getMimInfoFromQcimName(const std::string& name, std::strin
     return true;
 }
 
-void ModelRepository::translateMimName(RefId& ref) {
+bool ModelRepository::translateMimName(RefId& ref) {
     std::string mimName;
     std::string mimVersion;
-    if (getMimInfoFromQcimName(ref.getRefMomName(), mimName, mimVersion)) {
-        ref.setRefMomName(mimName);
-        ref.setRefMomVersion(mimVersion);
+    if (!getMimInfoFromQcimName(ref.getRefMomName(), mimName, mimVersion)) {
+        return false;
     }
+    ref.setRefMomName(mimName);
+    ref.setRefMomVersion(mimVersion);
+    return true;
 }
 
 void ModelRepository::translateMimNames(ContWrapper& cont) {

@@ -125,8 +125,9 @@ public:
     /// extension is `name`; false (outputs untouched) when none has it.
     bool getMimInfoFromQcimName(const std::string& name, std::string& mimName, std::string& mimVersion);
     /// Replaces a modelling-standard MOM name of a reference by the MOM's own
-    /// name and version.
-    void translateMimName(RefId& ref);
+    /// name and version; false (the reference untouched) when no MOM has
+    /// that modelling-standard name.
+    bool translateMimName(RefId& ref);
     /// The same for both ends of a containment.
     void translateMimNames(ContWrapper& cont);
     /// Files every class under its plain name (duplicates kept).

@@ -383,19 +383,10 @@ private:
     /// modelling-standard name (most are not), so that it is looked up once.
     void translateMomName(RefId& ref)
     {
-        if (_references == nullptr) {
-            _repository.translateMimName(ref);
+        if (_references != nullptr && _references->isPlainMomName(ref.getRefMomName())) {
             return;
         }
-        if (_references->isPlainMomName(ref.getRefMomName())) {
-            return;
-        }
-        std::string mimName;
-        std::string mimVersion;
-        if (_repository.getMimInfoFromQcimName(ref.getRefMomName(), mimName, mimVersion)) {
-            ref.setRefMomName(mimName);
-            ref.setRefMomVersion(mimVersion);
-        } else {
+        if (!_repository.translateMimName(ref) && _references != nullptr) {
             _references->addPlainMomName(ref.getRefMomName());
         }
     }
