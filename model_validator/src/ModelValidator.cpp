@@ -7,7 +7,6 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <getopt.h>
-#include <malloc.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -386,14 +385,6 @@ int main(int argc, char** argv) {
     // with SIGXFSZ. Ignored, the write fails with EFBIG instead: the log
     // writer reports it and goes on, and the run ends with its own status.
     std::signal(SIGXFSZ, SIG_IGN);
-#ifdef M_MXFAST
-    // The records of the model stay for the whole run while one document
-    // after another is built and released among them. Fast bins would keep
-    // the freed nodes of each document apart and merge them later in passes
-    // over the whole, ever larger heap; without them a freed block is
-    // merged with its free neighbours at once.
-    mallopt(M_MXFAST, 0);
-#endif
     ReportSession report("zef_model_validator", ZEF_VALIDATOR_RELEASE);
     int exitCode;
     try {
