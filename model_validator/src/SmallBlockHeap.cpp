@@ -1,12 +1,12 @@
 #include "SmallBlockHeap.h"
 
 #include <pthread.h>
-#include <sys/mman.h>
-#include <sys/single_threaded.h>
 
 #include <cstdint>
 #include <cstdlib>
 #include <mutex>
+
+#include "PoolLock.h"
 
 namespace Zef {
 
@@ -50,56 +50,14 @@ struct Heap {
 
 Heap heap;
 
-// Taken only while other threads may run, like every use of the lock: a
-// thread cannot be started from inside an operation of the heap.
-class HeapLock {
-public:
-    HeapLock() : _held(!__libc_single_threaded) {
-        if (_held) {
-            heap.lock.lock();
-        }
-    }
-    ~HeapLock() {
-        if (_held) {
-            heap.lock.unlock();
-        }
-    }
-    HeapLock(const HeapLock&) = delete;
-    HeapLock& operator=(const HeapLock&) = delete;
-
-private:
-    const bool _held;
-};
+// The lock is taken, as the record pools take theirs, only while other
+// threads may run.
+using ZefModelRepositoryService::PoolLock;
 
 // A forked child must not start with the lock held by a thread that does
 // not exist in it.
 void lockForFork() { heap.lock.lock(); }
 void unlockAfterFork() { heap.lock.unlock(); }
-
-void* mapMemory(std::size_t size) {
-    void* memory = ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    return memory == MAP_FAILED ? nullptr : memory;
-}
-
-// `size` bytes aligned to `alignment` (both multiples of the page size):
-// more is mapped, and the slack before and after is given back.
-char* mapAligned(std::size_t size, std::size_t alignment) {
-    char* mapped = static_cast<char*>(mapMemory(size + alignment));
-    if (mapped == nullptr) {
-        return nullptr;
-    }
-    const std::uintptr_t begin = reinterpret_cast<std::uintptr_t>(mapped);
-    const std::uintptr_t aligned = (begin + alignment - 1) & ~static_cast<std::uintptr_t>(alignment - 1);
-    char* result = mapped + (aligned - begin);
-    if (result > mapped) {
-        ::munmap(mapped, static_cast<std::size_t>(result - mapped));
-    }
-    char* const mappedEnd = mapped + size + alignment;
-    if (mappedEnd > result + size) {
-        ::munmap(result + size, static_cast<std::size_t>(mappedEnd - (result + size)));
-    }
-    return result;
-}
 
 std::size_t rootIndex(std::uintptr_t address) { return address >> (kRegionBits + kLeafBits); }
 std::size_t leafIndex(std::uintptr_t address) { return (address >> kRegionBits) & (kLeafSize - 1); }
@@ -124,7 +82,7 @@ bool addLeaves(const char* batch) {
     }
     for (std::size_t root = rootIndex(first); root <= rootIndex(last); ++root) {
         if (heap.leaves[root] == nullptr) {
-            heap.leaves[root] = static_cast<unsigned char*>(mapMemory(kLeafSize));
+            heap.leaves[root] = static_cast<unsigned char*>(std::calloc(kLeafSize, 1));
             if (heap.leaves[root] == nullptr) {
                 return false;
             }
@@ -144,12 +102,14 @@ bool newBatch() {
     if (!heap.forkHandled) {
         return false;
     }
-    char* batch = mapAligned(kRegionsPerBatch * kRegionSize, kRegionSize);
-    if (batch == nullptr) {
+    // From malloc, which never comes back here: it is not operator new.
+    void* memory = nullptr;
+    if (::posix_memalign(&memory, kRegionSize, kRegionsPerBatch * kRegionSize) != 0) {
         return false;
     }
+    char* batch = static_cast<char*>(memory);
     if (!addLeaves(batch)) {
-        ::munmap(batch, kRegionsPerBatch * kRegionSize);
+        std::free(batch);
         return false;
     }
     heap.batchFrom = batch;
@@ -198,7 +158,7 @@ void* SmallBlockHeap::allocate(std::size_t size) noexcept {
     const std::size_t sizeClass = size == 0 ? 0 : (size - 1) / kGranule;
     void* block;
     {
-        const HeapLock guard;
+        const PoolLock guard(heap.lock);
         block = takeBlock(sizeClass);
     }
     // Without a region the block comes from malloc, and goes back there.
@@ -215,13 +175,13 @@ void SmallBlockHeap::release(void* block) noexcept {
         return;
     }
     FreeBlock* freed = static_cast<FreeBlock*>(block);
-    const HeapLock guard;
+    const PoolLock guard(heap.lock);
     freed->next = heap.freeBlocks[mark - 1];
     heap.freeBlocks[mark - 1] = freed;
 }
 
 bool SmallBlockHeap::holds(const void* block) noexcept {
-    return block != nullptr && classMark(block) != 0;
+    return classMark(block) != 0;
 }
 
 } // namespace Zef

@@ -13,7 +13,7 @@ namespace Zef {
 /// and consolidation.
 ///
 /// Blocks of up to kLargestBlock bytes come from 64 KiB regions of one size
-/// class each, mapped from the system in batches; sizes are rounded up to a
+/// class each, taken from malloc in aligned batches; sizes are rounded up to a
 /// multiple of 16 and every block is 16-byte aligned, as operator new
 /// promises. A map from region to size class tells, for any block given
 /// back, whether it is one of these and of which class; anything else (a

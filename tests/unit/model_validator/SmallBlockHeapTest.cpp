@@ -48,11 +48,15 @@ TEST(SmallBlockHeapTest, OnlyItsOwnBlocksAreHeld) {
     std::free(fromMalloc);
 }
 
+// Null is on no free list afterwards: every class still hands out blocks.
 TEST(SmallBlockHeapTest, ReleasingNullDoesNothing) {
     SmallBlockHeap::release(nullptr);
-    void* block = SmallBlockHeap::allocate(32);
-    EXPECT_TRUE(SmallBlockHeap::holds(block));
-    SmallBlockHeap::release(block);
+    for (std::size_t size = 16; size <= SmallBlockHeap::kLargestBlock; size += 16) {
+        void* block = SmallBlockHeap::allocate(size);
+        ASSERT_NE(nullptr, block) << size;
+        EXPECT_TRUE(SmallBlockHeap::holds(block)) << size;
+        SmallBlockHeap::release(block);
+    }
 }
 
 TEST(SmallBlockHeapTest, AReleasedBlockServesTheNextBlockOfItsSizeClassOnly) {
